@@ -1,0 +1,7 @@
+# The warnings of our own targets: target_link_libraries(target PRIVATE ansatz_warnings).
+add_library(ansatz_warnings INTERFACE)
+target_compile_options(ansatz_warnings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
+                       $<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor -Wold-style-cast -Wmissing-declarations>)
+if(ANSATZ_WARNINGS_AS_ERRORS)
+  target_compile_options(ansatz_warnings INTERFACE -Werror)
+endif()

@@ -1,0 +1,103 @@
+// The error indicator, and the library functions that report through it.
+//
+// The indicator is errno. C libraries disagree about it: some report a range error when pow underflows, some
+// report no overflow at all. The functions here make every library behave alike:
+//   overflow, pole                        range error
+//   argument outside the domain           domain error (also sin and cos of an infinity)
+//   underflow                             no error
+//   NaN or infinity that passes through   no error
+// An indicator that was set before stays set. All of that is decided from the result alone, which costs
+// one compare on ordinary results; only a result that is zero, subnormal, infinite or NaN is looked at closely.
+// Values are the C library's own, bit for bit.
+#pragma once
+
+#include "protocol/point.h"
+
+#include <cerrno>
+#include <cmath>
+
+namespace ansatz {
+
+static_assert(EDOM == 33 && ERANGE == 34, "hosts read the indicator by these numbers");
+
+inline bool range_error() {
+    return errno == ERANGE;
+}
+inline bool math_error() {
+    return errno == ERANGE || errno == EDOM;
+}
+inline void clear_error() {
+    errno = 0;
+}
+
+/// Ends a failed path: MISSING_VALUE into y[1] and into the derivative slots named, indicator reset, status 1.
+template <class... Slots> Status fail(const Point& at, Slots... slots) {
+    ((at.dyda[slots] = MISSING_VALUE), ...);
+    at.y[1] = MISSING_VALUE;
+    clear_error();
+    return failure;
+}
+
+/// The same with every derivative slot 1..n of a model.
+inline Status fail_all(const Point& at, int n) {
+    for (int k = 1; k <= n; ++k) at.dyda[k] = MISSING_VALUE;
+    return fail(at);
+}
+
+namespace detail {
+
+/// Neither zero, subnormal, infinite nor NaN: no function here errs with such a result.
+inline bool ordinary(double r) {
+    const double size = std::fabs(r);
+    return size >= 0x1p-1022 && size <= 0x1.fffffffffffffp+1023;
+}
+
+/// Sets the indicator from an extraordinary result r of a call that found it at `before`; finite tells whether
+/// all arguments were finite, nan whether one was NaN.
+[[gnu::cold, gnu::noinline]] inline double settle(double r, int before, bool finite, bool nan) {
+    errno = before;
+    if (std::isnan(r) && !nan) errno = EDOM;
+    if (std::isinf(r) && finite) errno = ERANGE;
+    return r;
+}
+
+template <double (*f)(double)> inline double checked(double t) {
+    const int before = errno;
+    const double r = f(t);
+    return ordinary(r) ? r : settle(r, before, std::isfinite(t), std::isnan(t));
+}
+
+} // namespace detail
+
+// The library functions that models call, by their plain names.
+inline double exp(double t) {
+    return detail::checked<std::exp>(t);
+}
+inline double log(double t) {
+    return detail::checked<std::log>(t);
+}
+inline double sqrt(double t) {
+    return detail::checked<std::sqrt>(t);
+}
+inline double sin(double t) {
+    return detail::checked<std::sin>(t);
+}
+inline double cos(double t) {
+    return detail::checked<std::cos>(t);
+}
+inline double tanh(double t) {
+    return detail::checked<std::tanh>(t);
+}
+inline double acos(double t) {
+    return detail::checked<std::acos>(t);
+}
+
+inline double pow(double a, double b) {
+    const int before = errno;
+    const double r = std::pow(a, b);
+    return detail::ordinary(r) ? r
+                               : detail::settle(r, before, std::isfinite(a) && std::isfinite(b),
+                                                std::isnan(a) || std::isnan(b));
+}
+
+} // namespace ansatz
