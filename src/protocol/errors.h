@@ -30,18 +30,35 @@ inline void clear_error() {
     errno = 0;
 }
 
-/// Ends a failed path: MISSING_VALUE into y[1] and into the derivative slots named, indicator reset, status 1.
-template <class... Slots> Status fail(const Point& at, Slots... slots) {
+/// Ends a failed path: MISSING_VALUE into y[1] and into the derivative slots named; status 1. The indicator is
+/// left as it is.
+template <class... Slots> Status reject(const Point& at, Slots... slots) {
     ((at.dyda[slots] = MISSING_VALUE), ...);
     at.y[1] = MISSING_VALUE;
-    clear_error();
     return failure;
 }
 
-/// The same with every derivative slot 1..n of a model.
-inline Status fail_all(const Point& at, int n) {
+/// The same, and the indicator is reset: how nearly every failure ends.
+template <class... Slots> Status fail(const Point& at, Slots... slots) {
+    clear_error();
+    return reject(at, slots...);
+}
+
+/// Both with every derivative slot 1..n of a model.
+inline Status reject_all(const Point& at, int n) {
     for (int k = 1; k <= n; ++k) at.dyda[k] = MISSING_VALUE;
-    return fail(at);
+    return reject(at);
+}
+inline Status fail_all(const Point& at, int n) {
+    clear_error();
+    return reject_all(at, n);
+}
+
+/// How the surfaces fail: the marker goes into x[2], outputs keep what they held, indicator reset, status 1.
+inline Status fail_surface(const Point& at) {
+    at.x[2] = MISSING_VALUE;
+    clear_error();
+    return failure;
 }
 
 namespace detail {

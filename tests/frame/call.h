@@ -1,0 +1,46 @@
+// One call of a model as a host makes it, with every slot around the outputs watched.
+#pragma once
+
+#include <ansatz/ansatz.h>
+
+#include <array>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace ansatz::test {
+
+struct Model {
+    FitFunction function = nullptr;
+    int nIndep = 0, nDep = 0, nParams = 0;
+};
+
+/// Looks a model up as a host does. Ends the program where the name is unknown: the test itself would be wrong.
+Model find(const std::string& name);
+
+inline constexpr int slots = 64;
+
+struct Request {
+    unsigned flags = FF_VALUE;
+    int nParams = 0;
+    std::vector<double> P, x; ///< from index 0
+    int indicator = 0;        ///< errno on entry
+};
+
+struct Outcome {
+    std::int32_t status = 0;
+    int indicator = 0;
+    std::array<double, slots> y{}, dyda{};
+    /// Every slot that the call wrote: "y1", "d3", "x2", and "d0:ZZZZZZZZ" for a 32-bit code at dyda[0].
+    std::map<std::string, double> written;
+};
+
+Outcome call(const Model& model, const Request& request);
+
+/// Same bits (so NaN equals itself and 0 differs from -0).
+bool same_bits(double a, double b);
+
+/// What the slots hold that a call must not have written.
+double canary();
+
+} // namespace ansatz::test

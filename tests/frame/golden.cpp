@@ -1,0 +1,79 @@
+#include "frame/golden.h"
+
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <limits>
+#include <sstream>
+
+namespace ansatz::test {
+namespace {
+
+std::vector<double> read_list(std::istringstream& line) {
+    std::size_t count = 0;
+    line >> count;
+    std::vector<double> list(count);
+    for (double& v : list) {
+        std::string word;
+        line >> word;
+        v = std::strtod(word.c_str(), nullptr); // operator>> takes neither inf nor subnormals
+    }
+    return list;
+}
+
+void read_family(const std::filesystem::path& file, std::vector<GoldenRow>& rows) {
+    std::ifstream in(file);
+    for (std::string text; std::getline(in, text);) {
+        std::istringstream line(text);
+        std::string kind, word;
+        line >> kind;
+        if (kind == "row") {
+            GoldenRow& row = rows.emplace_back();
+            line >> row.name >> word >> row.form >> word >> row.query >> word >> row.probe >> word >>
+                row.idle >> word >> row.derivatives >> word >> row.slack;
+        } else if (kind == "at") {
+            GoldenPoint& point = rows.back().points.emplace_back();
+            point.P = read_list(line);
+            line >> word;
+            point.x = read_list(line);
+        } else {
+            Expected e{};
+            line >> e.slot >> word;
+            e.want = std::strtod(word.c_str(), nullptr);
+            line >> word;
+            e.condition = std::strtod(word.c_str(), nullptr);
+            e.stated = static_cast<bool>(line >> word);
+            GoldenPoint& point = rows.back().points.back();
+            (kind == "y" ? point.y : kind == "v" ? point.y_by_derivatives : point.dyda).push_back(e);
+        }
+        if (line.bad()) std::abort();
+    }
+}
+
+std::vector<GoldenRow> read_all() {
+    std::vector<GoldenRow> rows;
+    for (const auto& entry : std::filesystem::directory_iterator(ANSATZ_TEST_DATA "/golden")) {
+        if (entry.path().extension() == ".txt") read_family(entry.path(), rows);
+    }
+    if (rows.empty()) {
+        std::fprintf(stderr, "no golden data under %s\n", ANSATZ_TEST_DATA);
+        std::exit(2);
+    }
+    return rows;
+}
+
+} // namespace
+
+const std::vector<GoldenRow>& golden_rows() {
+    static const std::vector<GoldenRow> rows = read_all();
+    return rows;
+}
+
+double tolerance(const GoldenRow& row, const Expected& expected) {
+    constexpr double eps = std::numeric_limits<double>::epsilon();
+    return 4 * eps * row.slack * (std::fabs(expected.want) + expected.condition) + 1e-300;
+}
+
+} // namespace ansatz::test
