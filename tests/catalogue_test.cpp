@@ -1,0 +1,146 @@
+// The catalogue and the built library against a list kept apart from the library's own table.
+
+#include "frame/call.h"
+#include "frame/exports.h"
+
+#include <gtest/gtest.h>
+
+#include <cctype>
+#include <fstream>
+#include <set>
+#include <sstream>
+
+namespace ansatz::test {
+namespace {
+
+struct ListedRow {
+    std::string name, export_name;
+    int nIndep = 0, nDep = 0, nParams = 0;
+};
+
+struct Listed {
+    std::vector<ListedRow> rows;
+    std::vector<std::string> further_exports;
+};
+
+const Listed& listed() {
+    static const Listed list = [] {
+        Listed read;
+        std::ifstream in(ANSATZ_TEST_DATA "/expected/catalogue.txt");
+        for (std::string text; std::getline(in, text);) {
+            if (text[0] == '#') continue;
+            std::istringstream line(text);
+            ListedRow row;
+            line >> row.name;
+            if (row.name == "=") {
+                line >> read.further_exports.emplace_back();
+            } else {
+                line >> row.nIndep >> row.nDep >> row.nParams >> row.export_name;
+                read.rows.push_back(row);
+            }
+        }
+        return read;
+    }();
+    return list;
+}
+
+std::vector<std::string> lines;
+void ANSATZ_CALL keep_line(std::uint32_t, const char* line) {
+    lines.emplace_back(line);
+}
+
+TEST(Lookup, FindsEveryRowWithItsDimensionsInOrderAndInAnyCase) {
+    ASSERT_EQ(listed().rows.size(), 238u);
+    lines.clear();
+    EXPECT_EQ(FuncTest(1, nullptr, keep_line, nullptr), 238);
+    ASSERT_EQ(lines.size(), 238u);
+    for (std::size_t i = 0; i < 238; ++i) {
+        const ListedRow& row = listed().rows[i];
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(lines[i], "type " + row.name);
+        std::string swapped = row.name;
+        for (char& c : swapped) c = static_cast<char>(std::isupper(c) ? std::tolower(c) : std::toupper(c));
+        std::uint16_t nIndep = 99, nDep = 99, nParams = 99, reserved = 99;
+        const FitFunction function = Get_Func(swapped.c_str(), &nIndep, &nDep, &nParams, &reserved);
+        ASSERT_TRUE(function);
+        EXPECT_EQ(nIndep, row.nIndep);
+        EXPECT_EQ(nDep, row.nDep);
+        EXPECT_EQ(nParams, row.nParams);
+        EXPECT_EQ(reserved, 0);
+        EXPECT_EQ(function, get_funx(row.name.c_str()));
+        EXPECT_EQ(function, Get_Func(row.name.c_str(), nullptr, nullptr, nullptr, nullptr));
+    }
+}
+
+TEST(Lookup, UnknownNamesFindNothingAndStoreNothing) {
+    // export names, prefixes and padded names are no row names
+    for (const char* name :
+         {"", "Poly", "Boltzman1", "Boltzman2", "Gaus", "Gausss", " Gauss", "Gauss ", "_Ellipse@40"}) {
+        std::uint16_t kept = 7;
+        EXPECT_EQ(Get_Func(name, &kept, &kept, &kept, &kept), nullptr) << name;
+        EXPECT_EQ(kept, 7) << name;
+        EXPECT_EQ(get_funx(name), nullptr) << name;
+    }
+    EXPECT_EQ(get_funx_list(-1), 0);
+}
+
+TEST(SharedLibrary, ExportsExactlyTheListAndEachNameIsItsRowsRoutine) {
+    std::set<std::string> expected(listed().further_exports.begin(), listed().further_exports.end());
+    for (const ListedRow& row : listed().rows) {
+        if (row.export_name == "-" || row.export_name[0] == '_') continue; // _Ellipse@40 belongs to Windows
+        expected.insert(row.export_name);
+        EXPECT_EQ(exported_routine(row.export_name), get_funx(row.name.c_str())) << row.export_name;
+    }
+    EXPECT_EQ(exported_names(), expected);
+}
+
+// What the placeholders answer; none of them writes anything.
+TEST(Placeholders, AnswerAndWriteNothing) {
+    struct Answer {
+        const char* name;
+        int query, work, flags8;
+    };
+    std::vector<Answer> answers = {{"RationalEVP", 1, 0, 8}};
+    for (const char* name : {"LangmuirTS1", "LangmuirTS2", "Rational4P", "ExpCSum1", "ExpCSum2", "ExpCSumEVP",
+                             "Prunty", "BentHyperblSmp"}) {
+        answers.push_back({name, 0, 0, 8});
+    }
+    for (const char* name : {"BelehradekEVP", "ChapmanEVP1", "ChapmanEVP2", "ChapmanEVP3"}) {
+        answers.push_back({name, 0, 1, 8});
+    }
+    for (const Answer& answer : answers) {
+        const Model model = find(answer.name);
+        const std::vector<std::pair<unsigned, int>> requests = {{FF_QUERY_DERIV, answer.query},
+                                                                {FF_QUERY_DERIV | FF_VALUE, answer.query},
+                                                                {FF_VALUE, answer.work},
+                                                                {FF_DERIV, answer.work},
+                                                                {FF_VALUE | FF_DERIV, answer.work},
+                                                                {FF_PROBE, answer.flags8},
+                                                                {0xf0, 0xf0},
+                                                                {0, 0}};
+        for (const auto& [flags, status] : requests) {
+            const Outcome outcome = call(model, {flags, 3, {1, 2, 3}, {1}, 33});
+            EXPECT_EQ(outcome.status, status) << answer.name << " flags " << flags;
+            EXPECT_TRUE(outcome.written.empty()) << answer.name << " flags " << flags;
+            EXPECT_EQ(outcome.indicator, 33) << answer.name << " flags " << flags;
+        }
+    }
+}
+
+TEST(TestCommand, EvaluatesAModelAndReports) {
+    const double P[] = {0, 1, 2, 3}, unknown_slot = 0;
+    double x[] = {unknown_slot, 2}, y[3] = {}, dyda[4] = {};
+    AnsatzTestRequest request = {"Lorentz", FF_DERIV, 1, P, x, y, dyda};
+    lines.clear();
+    EXPECT_EQ(FuncTest(2, nullptr, keep_line, &request), 0);
+    EXPECT_EQ(lines, (std::vector<std::string>{"status 0", "y[1] = 1", "dyda[1] = 1, central difference 1"}));
+    request.name = "NoSuchModel";
+    lines.clear();
+    EXPECT_EQ(FuncTest(2, nullptr, keep_line, &request), -1);
+    EXPECT_EQ(lines, std::vector<std::string>{"unknown function: NoSuchModel"});
+    EXPECT_EQ(FuncTest(2, nullptr, nullptr, &request), -1);
+    EXPECT_EQ(FuncTest(7, nullptr, keep_line, &request), 0);
+}
+
+} // namespace
+} // namespace ansatz::test
