@@ -43,7 +43,7 @@ inline Status answer_idle(Idle idle, unsigned flags) {
     return success;
 }
 
-template <Path value, Path derivatives, Answers answers = {}> struct FormD {
+template <Path value, Path derivatives, Answers answers = Answers{}> struct FormD {
     static Status serve(unsigned flags, const Point& at) {
         if (answers.probe && flags & FF_PROBE) return answer_probe(at);
         if (flags & FF_QUERY_DERIV) return answers.query;
@@ -58,7 +58,7 @@ template <Path value, Path derivatives, Answers answers = {}> struct FormD {
     }
 };
 
-template <Path value, Path derivatives, Answers answers = {}> struct FormE {
+template <Path value, Path derivatives, Answers answers = Answers{}> struct FormE {
     static Status serve(unsigned flags, const Point& at) {
         if (answers.probe && flags & FF_PROBE) return answer_probe(at);
         if (flags & FF_QUERY_DERIV) return answers.query;
@@ -73,7 +73,7 @@ inline Status refuse(const Point&) {
     return failure;
 }
 
-template <Path value, Answers answers = {.query = 0}, Path refusal = refuse> struct FormV {
+template <Path value, Answers answers = Answers{.query = 0}, Path refusal = refuse> struct FormV {
     static Status serve(unsigned flags, const Point& at) {
         return FormE<value, refusal, answers>::serve(flags, at);
     }
