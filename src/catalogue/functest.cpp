@@ -27,8 +27,8 @@ struct Report {
         char text[256];
         std::va_list arguments;
         va_start(arguments, format);
-        std::vsnprintf(text, sizeof text, format,
-                       arguments); // NOLINT(clang-analyzer-valist.Uninitialized): it is
+        // NOLINTNEXTLINE(clang-analyzer-valist.Uninitialized): va_start is just above
+        std::vsnprintf(text, sizeof text, format, arguments);
         va_end(arguments);
         if (window) {
 #ifdef _WIN32
