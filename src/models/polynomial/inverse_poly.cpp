@@ -2,10 +2,11 @@
 //
 //   y = P1 + sum over the peaks of  A / (1 + a1 z + a2 z^2 + a3 z^3),  z = (2 (x - c) / w)^2
 //
-//   P1 offset; then per peak six parameters: centre c, width w, amplitude A, coefficients a1, a2, a3. With a1 =
-//   1 and the others 0 the peak is a Lorentzian of the full width w at half maximum. The number of peaks is
-//   (nParams - 1) / 6; parameters behind the last whole peak are ignored. y[i+1] is peak i alone, without the
-//   offset.
+//   P1 offset; then per peak six parameters: centre c, width w, amplitude A, coefficients a1, a2, a3. Where
+//   only a1 differs from 0 and is 1, the peak is a Lorentzian of the full width w at half maximum.
+//
+//   The number of peaks is (nParams - 1) / 6; parameters behind the last whole peak are ignored. y[i+1] is peak
+//   i alone, without the offset.
 //
 //   Fails where a peak with an amplitude other than 0 has a width <= 0; the value also for nParams < 1, which
 //   the derivatives take for no peak. A peak of amplitude 0 is skipped: its component and its derivatives keep
