@@ -2,7 +2,7 @@
 //
 //   NAME FLAGS [n COUNT] [errno N] P p1 p2 .. x x1 ..  ->  STATUS [errno N] [slot=value ..]
 //
-//   FLAGS   value, deriv, both, query, probe, none
+//   FLAGS   value, deriv, both, query, probe, none, or the flags byte as a number
 //   n       nParams, by default the number of parameters given
 //   errno   the error indicator on entry, and after the call (0 when not named)
 //   slot    y1, d3, x2 ...; value a number (met to 4 ulp; 0, inf and nan exactly), or missing. Slots not named
@@ -49,12 +49,13 @@ Case parse(const std::string& text) {
     std::istringstream line(text);
     std::string word;
     line >> c.name >> word;
-    c.request.flags = flags.at(word);
-    int count = -1;
+    const auto named = flags.find(word);
+    c.request.flags = named == flags.end() ? static_cast<unsigned>(std::stoul(word)) : named->second;
+    bool counted = false;
     std::vector<double>* list = nullptr;
     while (line >> word && word != "->") {
         if (word == "n")
-            line >> count;
+            counted = static_cast<bool>(line >> c.request.nParams);
         else if (word == "errno")
             line >> c.request.indicator;
         else if (word == "P")
@@ -64,7 +65,7 @@ Case parse(const std::string& text) {
         else
             list->push_back(number(word));
     }
-    c.request.nParams = count == -1 ? static_cast<int>(c.request.P.size()) : count;
+    if (!counted) c.request.nParams = static_cast<int>(c.request.P.size());
     if (!(line >> c.status)) throw std::invalid_argument("no status");
     while (line >> word) {
         const auto equals = word.find('=');

@@ -1,0 +1,35 @@
+// ExpGrowth: exponential growth from x = 0.
+//
+//   y = P1 e^(x/P2)
+//
+//   P1 the response at x = 0, P2 the stretch of x in which the response grows by the factor e; negative: decay.
+//
+//   Fails for P2 == 0 and where the exponential overflows. An exponent below -300 gives 0.
+
+#include "models/handbook/three_parameter.h"
+
+namespace ansatz::exp_growth {
+namespace {
+
+Status value(const Point& at) {
+    const auto [n, P, xs, y, dyda] = at;
+    if (P[2] == 0) return fail(at);
+    y[1] = P[1] * safe_exp(xs[1] / P[2]);
+    return math_error() ? fail(at) : success;
+}
+
+Status derivatives(const Point& at) {
+    const auto [n, P, xs, y, dyda] = at;
+    if (P[2] == 0) return fail(at, 1, 2);
+    const double exponent = xs[1] / P[2];
+    const double E = safe_exp(exponent);
+    y[1] = P[1] * E;
+    dyda[1] = E;
+    dyda[2] = -y[1] * exponent / P[2];
+    return math_error() ? fail(at, 1, 2) : success;
+}
+
+} // namespace
+} // namespace ansatz::exp_growth
+
+ANSATZ_MODEL(ExpGrowth, ansatz::ThreeParameterLaw<ansatz::exp_growth::value, ansatz::exp_growth::derivatives>)

@@ -1,0 +1,42 @@
+// Gunary: an adsorption isotherm with a square-root term.
+//
+//   y = x / (P1 + P2 x + P3 sqrt(x))
+//
+//   1/P1 is the slope at x = 0 and 1/P2 the plateau; P3 bends the curve between the two. With P3 = 0 it is the
+//   plain hyperbola.
+//
+//   Fails for x < 0 and where the denominator is 0. At x = 0 the value and all derivatives are 0.
+
+#include "models/handbook/three_parameter.h"
+
+namespace ansatz::gunary {
+namespace {
+
+Status value(const Point& at) {
+    const auto [n, P, xs, y, dyda] = at;
+    const double x = xs[1];
+    if (x < 0) return fail(at);
+    const double D = P[1] + P[2] * x + P[3] * sqrt(x);
+    if (math_error() || D == 0) return fail(at);
+    y[1] = x / D;
+    return success;
+}
+
+Status derivatives(const Point& at) {
+    const auto [n, P, xs, y, dyda] = at;
+    const double x = xs[1];
+    if (x < 0) return fail(at, 1, 2, 3);
+    const double root = sqrt(x);
+    const double D = P[1] + P[2] * x + P[3] * root;
+    if (math_error() || D == 0) return fail(at, 1, 2, 3);
+    y[1] = x / D;
+    dyda[1] = -y[1] / D;
+    dyda[2] = dyda[1] * x;
+    dyda[3] = dyda[1] * root;
+    return success;
+}
+
+} // namespace
+} // namespace ansatz::gunary
+
+ANSATZ_MODEL(Gunary, ansatz::ThreeParameterLaw<ansatz::gunary::value, ansatz::gunary::derivatives>)

@@ -1,0 +1,38 @@
+// Holliday1: yield of a single plant against the density x of planting.
+//
+//   y = P1 / (1 + P2 x + P3 x^2)
+//
+//   P1 the yield of a plant that stands alone (unit of y), P2 (1/x) and P3 (1/x^2) the losses to crowding.
+//
+//   Fails where the denominator is 0. No library function is called, so a pending error passes through unseen.
+
+#include "models/handbook/three_parameter.h"
+
+namespace ansatz::holliday1 {
+namespace {
+
+Status value(const Point& at) {
+    const auto [n, P, xs, y, dyda] = at;
+    const double x = xs[1];
+    const double D = 1 + P[2] * x + P[3] * (x * x);
+    if (D == 0) return fail(at);
+    y[1] = P[1] / D;
+    return success;
+}
+
+Status derivatives(const Point& at) {
+    const auto [n, P, xs, y, dyda] = at;
+    const double x = xs[1];
+    const double D = 1 + P[2] * x + P[3] * (x * x);
+    if (D == 0) return fail(at, 1, 2, 3);
+    y[1] = P[1] / D;
+    dyda[1] = 1 / D;
+    dyda[2] = -y[1] * x / D;
+    dyda[3] = dyda[2] * x;
+    return success;
+}
+
+} // namespace
+} // namespace ansatz::holliday1
+
+ANSATZ_MODEL(Holliday1, ansatz::ThreeParameterLaw<ansatz::holliday1::value, ansatz::holliday1::derivatives>)

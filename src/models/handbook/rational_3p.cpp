@@ -1,0 +1,85 @@
+// Rational0 to Rational4: the quotient of two straight lines with three free constants, in five forms.
+//
+//   Rational0   y = (P2 + P3 x) / (1 + P1 x)
+//   Rational1   y = (1 + P3 x) / (P1 + P2 x)
+//   Rational2   y = (P2 + P3 x) / (P1 + x)
+//   Rational3   y = (P2 + x) / (P1 + P3 x)
+//   Rational4   y = P3 + P2 / (x + P1)
+//
+//   All are hyperbolas. The forms differ in which one of the four constants is fixed at 1, and so in which
+//   curves they can reach: "Rational0" needs a finite response at x = 0, "Rational1" one other than 0;
+//   "Rational2" and "Rational4" a pole (at x = -P1), "Rational3" a zero (at x = -P2).
+//
+//   Fails where the denominator is 0. No library function is called, so a pending error passes through unseen.
+
+#include "models/handbook/three_parameter.h"
+
+namespace ansatz::rational_3p {
+namespace {
+
+constexpr int one = 0; ///< stands for a constant that is fixed at 1
+
+/// (a + b x) / (c + d x), each constant given by the slot it comes from.
+template <int a, int b, int c, int d> struct Quotient {
+    static double constant(const double* P, int slot) { return slot == one ? 1 : P[slot]; }
+
+    static Status value(const Point& at) {
+        const auto [n, P, xs, y, dyda] = at;
+        const double x = xs[1];
+        const double D = constant(P, c) + constant(P, d) * x;
+        if (D == 0) return fail(at);
+        y[1] = (constant(P, a) + constant(P, b) * x) / D;
+        return success;
+    }
+
+    static Status derivatives(const Point& at) {
+        const auto [n, P, xs, y, dyda] = at;
+        const double x = xs[1];
+        const double D = constant(P, c) + constant(P, d) * x;
+        if (D == 0) return fail(at, 1, 2, 3);
+        y[1] = (constant(P, a) + constant(P, b) * x) / D;
+        if constexpr (a != one) dyda[a] = 1 / D;
+        if constexpr (b != one) dyda[b] = x / D;
+        if constexpr (c != one) dyda[c] = -y[1] / D;
+        if constexpr (d != one) dyda[d] = -y[1] * x / D;
+        return success;
+    }
+};
+
+template <int a, int b, int c, int d> using Model =
+    ThreeParameterLaw<Quotient<a, b, c, d>::value, Quotient<a, b, c, d>::derivatives>;
+
+} // namespace
+} // namespace ansatz::rational_3p
+
+namespace ansatz::rational4 {
+namespace {
+
+Status value(const Point& at) {
+    const auto [n, P, xs, y, dyda] = at;
+    const double D = xs[1] + P[1];
+    if (D == 0) return fail(at);
+    y[1] = P[3] + P[2] / D;
+    return success;
+}
+
+Status derivatives(const Point& at) {
+    const auto [n, P, xs, y, dyda] = at;
+    const double D = xs[1] + P[1];
+    if (D == 0) return fail(at, 1, 2, 3);
+    const double quotient = P[2] / D;
+    y[1] = P[3] + quotient;
+    dyda[1] = -quotient / D;
+    dyda[2] = 1 / D;
+    dyda[3] = 1;
+    return success;
+}
+
+} // namespace
+} // namespace ansatz::rational4
+
+ANSATZ_MODEL(Rational0, ansatz::rational_3p::Model<2, 3, ansatz::rational_3p::one, 1>)
+ANSATZ_MODEL(Rational1, ansatz::rational_3p::Model<ansatz::rational_3p::one, 3, 1, 2>)
+ANSATZ_MODEL(Rational2, ansatz::rational_3p::Model<2, 3, 1, ansatz::rational_3p::one>)
+ANSATZ_MODEL(Rational3, ansatz::rational_3p::Model<2, ansatz::rational_3p::one, 1, 3>)
+ANSATZ_MODEL(Rational4, ansatz::ThreeParameterLaw<ansatz::rational4::value, ansatz::rational4::derivatives>)
