@@ -6,6 +6,7 @@
 //     1   the library reports a range error (the exponential of a large number)
 //     2   the library reports a domain error (the logarithm of a negative number)
 //     3   a check of the parameters fails
+//   Each marks y[1] and dyda[1..3], even where the value alone was asked for: pass a dyda with three slots.
 //   Any other P3 leaves the line as it is; its derivative by P3 is always 0.
 
 #include "protocol/forms.h"
@@ -22,7 +23,7 @@ bool fails(double rehearsal) {
 
 Status value(const Point& at) {
     const auto [n, P, x, y, dyda] = at;
-    if (fails(P[3])) return fail(at);
+    if (fails(P[3])) return fail(at, 1, 2, 3);
     y[1] = P[1] + P[2] * x[1];
     return success;
 }
