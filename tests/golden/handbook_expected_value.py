@@ -5,7 +5,8 @@ from laws import draw, row
 
 
 def law(name, P, x, *more, **facts):
-    points = [point for ranges, position in ((P, x), *more) for point in draw(9 - 3 * len(more), P=ranges, x=position)]
+    count = 9 - 3 * len(more)
+    points = [point for ranges, position in ((P, x), *more) for point in draw(count, P=ranges, x=position)]
     return row(name, form="E", idle="flags", points=points, **facts)
 
 
@@ -29,7 +30,8 @@ def line(P, x):
 
 
 # The derivatives divide the exponentials by the line alone; the true ones have the distance P3 - P1 as well.
-law("Log2P2EVP", [(0.5, 1.5), (-1, 1), (4, 6), (1, 2)], (1, 9), ([4, (0.5, 2), 3, (0.5, 2)], (2.9, 4.1)), stated={
+unit_apart = [4, (0.5, 2), 3, (0.5, 2)], (2.9, 4.1)
+law("Log2P2EVP", [(0.5, 1.5), (-1, 1), (4, 6), (1, 2)], (1, 9), unit_apart, stated={
     1: lambda P, x: 1 / (P[3] - P[1]) - exp(P[4]) / line(P, x),
     2: lambda P, x: (P[3] - x) * exp(P[2]) / line(P, x),
     3: lambda P, x: exp(P[2]) / line(P, x) - 1 / (P[3] - P[1]),

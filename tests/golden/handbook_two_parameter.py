@@ -17,9 +17,12 @@ law("Log2P1", ((-3, 0), (-2, 3), (0.5, 8)), ((2, 4), (0.5, 2), (4.5, 20)))(lambd
 law("Log2P2", ((0.2, 3), (0.1, 2), (0.5, 8)), ((5, 9), (-1, -0.2), (-3, 3)))(lambda P, x: log(P[1] + P[2] * x))
 law("BoxLucas1Mod", ((1, 20), (0.2, 0.9), (-2, 8)), ((-3, 3), (1.1, 2), (0.5, 4)))(
     lambda P, x: P[1] - P[1] * exp(x * log(P[2])))
-law("Exp2P", ((1, 20), (0.2, 0.9), (-2, 8)), ((-3, 3), (1.1, 2), (-4, 4)))(lambda P, x: P[1] * exp(x * log(P[2])))
-law("Exp2PMod1", ((1, 20), (-2, -0.2), (-2, 8)), ((-3, 3), (0.1, 2), (-4, 4)))(lambda P, x: P[1] * exp(x * P[2]))
-law("Exp2PMod2", ((-2, 2), (-2, -0.2), (-2, 8)), ((-3, 3), (0.1, 2), (-4, 4)))(lambda P, x: exp(P[1]) * exp(x * P[2]))
+law("Exp2P", ((1, 20), (0.2, 0.9), (-2, 8)), ((-3, 3), (1.1, 2), (-4, 4)))(
+    lambda P, x: P[1] * exp(x * log(P[2])))
+law("Exp2PMod1", ((1, 20), (-2, -0.2), (-2, 8)), ((-3, 3), (0.1, 2), (-4, 4)))(
+    lambda P, x: P[1] * exp(x * P[2]))
+law("Exp2PMod2", ((-2, 2), (-2, -0.2), (-2, 8)), ((-3, 3), (0.1, 2), (-4, 4)))(
+    lambda P, x: exp(P[1]) * exp(x * P[2]))
 for name in "Freundlich", "TimePow":
     law(name, ((-3, 3), (-2, -0.2), positive), ((1, 20), positive, (0.01, 50)))(
         lambda P, x: P[1] * exp(P[2] * log(x)))
@@ -27,7 +30,8 @@ law("FreundlichMod1", ((-3, 3), (-2, -0.3), positive), ((1, 20), positive, (0.01
     lambda P, x: P[1] * exp(log(x) / P[2]))
 law("RectHyperbola", ((1, 20), positive, (0.1, 5)), ((-3, -1), (-0.1, -0.02), (1, 5)))(
     lambda P, x: P[1] / (1 + 1 / (P[2] * x)))
-law("HyperbolaMod", (positive, positive, (0.1, 9)), ((-3, -1), (20, 30), (-5, 5)))(lambda P, x: 1 / (P[1] + P[2] / x))
+law("HyperbolaMod", (positive, positive, (0.1, 9)), ((-3, -1), (20, 30), (-5, 5)))(
+    lambda P, x: 1 / (P[1] + P[2] / x))
 law("Reciprocal", (positive, positive, (0.1, 9)), ((-3, -1), (0.01, 0.1), (-5, 5)))(
     lambda P, x: 1 / (P[1] + P[2] * x))
 law("ReciprocalMod", ((-5, 5), positive, (0.1, 9)), ((1, 9), (-0.1, -0.02), (-5, 5)))(

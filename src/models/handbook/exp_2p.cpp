@@ -8,7 +8,8 @@
 //                                      fails: overflow
 //   Exp2PEVP    y = P2^((x - P3)/(P1 - P3)) P4^((P1 - x)/(P1 - P3))
 //                                      P1, P3 reference positions; P2, P4 responses expected there
-//                                      fails: P2 <= 0, P4 <= 0, P1 - P3 == 0, overflow of a power
+//                                      fails: P2 <= 0, P4 <= 0, P1 - P3 == 0, overflow of a power;
+//                                      the derivatives also where P4/P2 is so small that it is 0
 //
 //   Exponents below -300 give exactly 0 in the two forms with a rate. In the derivatives, Exp2P and Exp2PMod2
 //   mark only y[1] on any failure, and so does Exp2PEVP on a parameter outside its domain. At x == P3 Exp2PEVP

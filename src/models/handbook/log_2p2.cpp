@@ -45,7 +45,6 @@ Status value(const Point& at) {
     const auto [n, P, x, y, dyda] = at;
     if (P[3] - P[1] == 0) return fail(at);
     const double E2 = safe_exp(P[2]), E4 = safe_exp(P[4]);
-    if (math_error()) return fail(at);
     const double q = ((x[1] - P[1]) * E4 + (P[3] - x[1]) * E2) / (P[3] - P[1]);
     if (q <= 0) return fail(at);
     y[1] = log(q);
