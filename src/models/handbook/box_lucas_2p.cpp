@@ -1,8 +1,8 @@
 // Box-Lucas rise to a plateau, written with a base instead of a rate.
 //
 //   BoxLucas1Mod   y = P1 (1 - P2^x)
-//                  P1 plateau (unit of y); P2 base, the factor by which the gap to the plateau shrinks per unit
-//                  of x fails: P2 <= 0, overflow of the power
+//                  P1 plateau (unit of y); P2 base, what is left of the gap to it after one unit of x
+//                  fails: P2 <= 0, overflow of the power
 //   BoxLucas1EVP   y = P2 (1 - P3^x) / (1 - P3^P1)
 //                  P1 reference position; P2 response expected there; P3 base
 //                  fails: P3 <= 0, P1 == 0, P3 == 1, overflow of P3^x
