@@ -10,7 +10,7 @@
 //   The expected-value form is Log2P2 with the line through (P1, e^P2) and (P3, e^P4).
 //
 //   Its derivatives divide the exponentials by q where the calculus has q (P3 - P1). So they are the true ones
-//   only for reference positions one unit of x apart; otherwise a minimiser is led by a scaled gradient.
+//   only where P3 - P1 == 1: choose the reference positions one unit of x apart, the lower one first.
 
 #include "models/handbook/two_parameter.h"
 
