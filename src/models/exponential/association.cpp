@@ -5,11 +5,12 @@
 //   P1 baseline at x = 0, P2 and P4 the rise of each phase (unit of y), P3 and P5 its time constant (unit of
 //   x). A negative time constant is accepted: the phase then falls ever faster.
 //
-//   Fails where a time constant is 0 and on an overflow; a failure of the derivatives leaves the slots as far
-//   as they were written. The two models differ in when the value overlooks a time constant of 0: ExpAssoc
-//   skips each phase of amplitude 0; it leaves the second phase out below 4 parameters, though
-//               its derivatives never do, and fails for nParams <= 0.
-//   ExpAssoc2   only where both amplitudes are 0; the value is P1 then.
+//   Fails where a time constant is 0 and on an overflow. A failure of the derivatives leaves the slots as far
+//   as they were written. When the value overlooks a time constant of 0 differs:
+//
+//   ExpAssoc    skips each phase of amplitude 0. It leaves the second phase out below 4 parameters, though its
+//               derivatives never do, and fails for nParams <= 0.
+//   ExpAssoc2   is P1 where both amplitudes are 0; one of them alone changes nothing.
 
 #include "protocol/forms.h"
 
@@ -46,7 +47,7 @@ Status assoc2_value(const Point& at) {
 }
 
 /// The derivatives but for the slots of the time constants.
-Status rises(const Point& at) {
+[[gnu::always_inline]] inline Status rises(const Point& at) {
     const auto [n, P, x, y, dyda] = at;
     if (P[3] == 0 || P[5] == 0) return fail(at);
     dyda[1] = 1;

@@ -5,7 +5,7 @@
 //
 //   P1 baseline (unit of y), P2 start time (unit of x); then per term two parameters: amplitude A (unit of y),
 //   the height of the term at x = P2, and time constant T (unit of x): P3, P4, then P5, P6, then P7, P8.
-//   Moving P2 only rescales the amplitudes: hold it fixed in a fit, or take a model that starts at 0.
+//   But for Kinetic, moving P2 only rescales the amplitudes: hold it fixed in a fit.
 //
 //   ExpDecay1..3 have as many terms as their names say. Kinetic is a decay that stays at P1 before x = P2; it
 //   has no derivatives. Its second term counts with more than 4 parameters, its third with more than 6. The
@@ -13,9 +13,9 @@
 //
 //   The value fails for nParams <= 0, for a time constant <= 0 and on an overflow. A term of amplitude 0 is
 //   skipped, whatever its time constant.
-//   The derivatives of a decay fail for every time constant <= 0, that of a term of amplitude 0 too. Those of
-//   a growth accept a negative time constant, where the term decays; they fail at 0, and a failure leaves
-//   the slots as far as they were written.
+//   The derivatives of a decay fail for every time constant <= 0, that of a term of amplitude 0 too, and mark
+//   every slot. Those of a growth accept a negative time constant, where the term decays; they fail at 0, and
+//   a failure leaves the slots as far as they were written.
 
 #include "protocol/forms.h"
 
@@ -31,7 +31,8 @@ constexpr int time_constant(int term) {
     return 2 * term + 2;
 }
 
-template <int direction> Status value(const Point& at, int terms) {
+/// The number of terms is a constant to most callers: inlined, the loop unrolls.
+template <int direction> [[gnu::always_inline]] inline Status value(const Point& at, int terms) {
     const auto [n, P, x, y, dyda] = at;
     if (n <= 0) return fail(at);
     double sum = P[1];

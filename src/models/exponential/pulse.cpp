@@ -8,9 +8,10 @@
 //
 //   Both fail where a time or the power is <= 0, with one exception: the value of Pulse1 accepts a negative
 //   time and any power, as far as the power of 1 - e^(..) exists, and an amplitude of 0 makes it 0 untested.
-//   The value of Pulse also fails for nParams <= 0. At the start, and so near to it that the rise is lost in
-//   rounding, the derivatives return status 1 with a usable value and amplitude slot: the slots of start, times
-//   and power do not exist there and are missing.
+//   The value of Pulse also fails for nParams <= 0.
+//
+//   At the start, and so near to it that the rise is lost in rounding, the derivatives return status 1 with a
+//   usable value and amplitude slot: the slots of start, times and power do not exist there and are missing.
 
 #include "protocol/forms.h"
 

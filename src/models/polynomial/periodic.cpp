@@ -1,15 +1,17 @@
 // Sine waves: Sine, SineSqr, SineDamp.
 //
-//   Sine       y = P1 + P4 sin(t)                  P1 offset, P2 phase shift, P3 half period, P4 amplitude
-//   SineSqr    y = P1 + P4 sin(t)^2                the same; P3 is the full period of the squared wave
-//   SineDamp   y = P1 + P5 e^(-x/P4) sin(t)        P1 offset, P2 phase shift, P3 half period, P4 decay time,
-//                                                  P5 amplitude
-//   with t = pi (x - P2) / P3. P2, P3, P4 (of SineDamp) have the unit of x.
+//   Sine       y = P1 + P4 sin(t)                P1 offset, P2 phase shift, P3 half period, P4 amplitude
+//   SineSqr    y = P1 + P4 sin(t)^2              the same; P3 is the full period of the squared wave
+//   SineDamp   y = P1 + P5 e^(-x/P4) sin(t)      as Sine; P4 decay time, P5 amplitude
 //
-//   Fails where P3 is 0, SineDamp also where P4 is 0 and on an overflow of the exponential; a negative decay
-//   time lets the wave grow. The derivatives then mark every slot. How an infinite t ends: SineSqr fails, and
-//   so does the value of SineDamp; Sine and the derivatives of SineDamp return status 0 with numbers that are
-//   no numbers, and the error indicator is left at a domain error.
+//   with t = pi (x - P2) / P3. Shift, period and decay time have the unit of x.
+//
+//   Fails where P3 is 0, SineDamp also where P4 is 0 and on an overflow of the exponential; a failure of the
+//   derivatives marks every slot. A negative period is accepted, and so is a negative decay time, which lets
+//   the wave grow.
+//
+//   How an infinite t ends: SineSqr fails, and so does the value of SineDamp; Sine and the derivatives of
+//   SineDamp return NaN with status 0, and the error indicator stays at a domain error.
 
 #include "protocol/forms.h"
 

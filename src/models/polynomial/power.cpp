@@ -2,26 +2,28 @@
 //
 //   Power0   y = P1 + P3 |x - P2|^P4     P1 offset, P2 centre, P3 amplitude, P4 exponent
 //   Power1   y = P2 |x - P1|^P3          P1 centre, P2 amplitude, P3 exponent
-//   Power2   y = P2 |x - P1|^E           P1 centre, P2 amplitude, exponent E = P3 left of the centre and P4
-//   right
-//                                        of it
+//   Power2   y = P2 |x - P1|^E           P1 centre, P2 amplitude, E = P3 left of the centre and P4 right of it
 //
 //   The amplitude is the height above the offset at distance 1 (unit of x) from the centre.
 //
-//   The centre is a regular point with status 0: the value is that of the offset, and the derivatives by centre
-//   and exponent, which do not exist, are missing. Two things to know about Power0 there: a call for
-//   value and derivatives ends with the value and leaves dyda untouched, and a call for derivatives alone
-//   writes y[1] = 0, not P1. Elsewhere: fails on an overflow. Exponents <= 0 fail for the derivatives of Power1
-//   and Power2 only. The value of Power0 also fails for nParams <= 0. The derivatives of Power1 do not look for
-//   an overflow: it shows as infinite numbers with status 0, and the error indicator stays set.
+//   Fails on an overflow. Exponents <= 0 fail for the derivatives of Power1 and Power2 only. The value of
+//   Power0 also fails for nParams <= 0. The derivatives of Power1 do not look for an overflow: it shows as
+//   infinite numbers with status 0, and the error indicator stays set.
+//
+//   At the centre itself the status is 0: the value is that of the offset, and the derivatives by centre and
+//   exponent, which do not exist, are missing. Two things to know about Power0 there: a call for value and
+//   derivatives ends with the value and leaves dyda untouched, and a call for derivatives alone writes
+//   y[1] = 0, not P1.
 
 #include "protocol/forms.h"
+
+#include <cmath>
 
 namespace ansatz::power {
 namespace {
 
 double distance(double x, double centre) {
-    return __builtin_fabs(x - centre);
+    return std::fabs(x - centre);
 }
 
 Status power0_value(const Point& at) {
