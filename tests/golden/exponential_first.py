@@ -3,7 +3,7 @@
 from mpmath import exp
 from laws import blocks, draw, row
 
-term = [(0.5, 3), (0.5, 3)]
+term = [(-2, 3), (0.5, 3)]
 
 
 def start(count):

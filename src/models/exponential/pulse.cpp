@@ -72,12 +72,7 @@ template <int start> Status slopes(const Point& at, double d) {
     dyda[start] = (1 / P[decay] - c) * v;
     dyda[rise] = v * a * c;
     dyda[decay] = -v * b / P[decay];
-    dyda[power] = log(g) * v;
-    if (math_error()) {
-        clear_error();
-        dyda[power] = MISSING_VALUE;
-        return failure;
-    }
+    dyda[power] = log(g) * v; // 0 < g <= 1: no error is possible
     return success;
 }
 
