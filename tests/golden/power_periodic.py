@@ -9,7 +9,8 @@ def hyperbola(P, x):
     return P[1] * x / (P[2] + x)
 
 
-@row("Dhyperbl", form="D", points=draw(10, P=[(1, 4), (0.5, 3), (-4, 4), (0.5, 3), (-1, 1)], x=(0.2, 5)))
+@row("Dhyperbl", form="D", points=draw(10, P=[(1, 4), (0.5, 3), (-4, 4), (0.5, 3), (-1, 1)], x=(0.2, 5))
+     + [([2, -1, 3, -2, 0.5], 0.25)])
 def double_hyperbola(P, x):
     return P[1] * x / (P[2] + x) + P[3] * x / (P[4] + x) + P[5] * x
 

@@ -6,9 +6,9 @@
 //   Pulse: P1 baseline, P2 start time, P3 amplitude, P4 rise time, P5 rise power, P6 decay time; Pulse1: the
 //   same without the baseline. Times have the unit of x. The amplitude is no height: the pulse peaks below it.
 //
-//   Both fail where a time or the power is <= 0, with one exception: the value of Pulse1 accepts a negative
-//   time and any power, as far as the power of 1 - e^(..) exists, and an amplitude of 0 makes it 0 untested.
-//   The value of Pulse also fails for nParams <= 0.
+//   Both fail where a time or the power is <= 0, with one exception: the value of Pulse1 accepts negative times
+//   and any power, where neither an exponential overflows nor the power of 1 - e^(..) is undefined, and an
+//   amplitude of 0 makes it 0 untested. The value of Pulse also fails for nParams <= 0.
 //
 //   At the start, and so near to it that the rise is lost in rounding, the derivatives return status 1 with a
 //   usable value and amplitude slot: the slots of start, times and power do not exist there and are missing.
