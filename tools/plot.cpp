@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -74,6 +75,25 @@ std::string curve_block(const host::Evaluation& curve, const Eigen::MatrixXd& x)
         block += "\n";
     }
     return block + "EOD\n";
+}
+
+/// Half the height of the residual panel.
+double residual_reach(const host::Data& data, const host::Fit& fit, const Eigen::MatrixXd& deviations) {
+    Eigen::MatrixXd size = (data.y - fit.fitted).cwiseAbs();
+    for (Eigen::Index d = 0; deviations.size() > 0 && d < size.cols(); ++d) {
+        size.col(d) += deviations.col(std::min(d, deviations.cols() - 1));
+    }
+    const double largest = size.maxCoeff();
+    return largest > 0 ? 1.15 * largest : 1.0;
+}
+
+/// The largest of 1, 2 and 5 times a power of ten that does not exceed the number.
+double round_step(double number) {
+    const double power = std::pow(10.0, std::floor(std::log10(number)));
+    for (const double factor : {5.0, 2.0}) {
+        if (factor * power <= number) return factor * power;
+    }
+    return power;
 }
 
 void run_gnuplot(const std::string& script, const std::string& file) {
@@ -148,7 +168,7 @@ void plot(const host::Model& model, const host::Data& data, const host::Fit& fit
                         curve_colours[colour],
                         quoted(outputs == 1 ? model.name() : fmt::format("{} y{}", model.name(), d + 1))));
         layers.push_back(
-            fmt::format("$data{} using 1:2{} pointtype 7 pointsize 0.7 linewidth 1 linecolor rgb '{}' "
+            fmt::format("$data{} using 1:2{} pointtype 7 pointsize 1 linewidth 1 linecolor rgb '{}' "
                         "title {}",
                         d + 1, bars ? ":3 with yerrorbars" : " with points", data_colours[colour],
                         quoted(labels.y[colour])));
@@ -161,15 +181,13 @@ void plot(const host::Model& model, const host::Data& data, const host::Fit& fit
     plot_layers();
 
     // Below: the residuals, data minus curve.
-    script +=
-        fmt::format("set tmargin at screen 0.30\nset bmargin at screen 0.11\nunset title\nunset key\n"
-                    "set ylabel 'residual' offset -0.5\nset xlabel {}\nset format x '%g'\nset ytics autofreq\n"
-                    "set xzeroaxis linewidth 1.5 linecolor rgb '{}' linetype 1\n"
-                    "stats $data1 using 4 nooutput name 'R'\n"
-                    "if (R_max > R_min) {{ set ytics (R_max - R_min > 0 ? 10**floor(log10((R_max - R_min)/2))*"
-                    "(((R_max - R_min)/2)/10**floor(log10((R_max - R_min)/2)) >= 5 ? 5 : "
-                    "((R_max - R_min)/2)/10**floor(log10((R_max - R_min)/2)) >= 2 ? 2 : 1) : 1) }}\n",
-                    quoted(labels.x), curve_colours[0]);
+    const double reach = residual_reach(data, fit, deviations);
+    const double tic = round_step(reach);
+    script += fmt::format("set tmargin at screen 0.30\nset bmargin at screen 0.11\nunset title\nunset key\n"
+                          "set ylabel 'residual' offset -0.5\nset xlabel {}\nset format x '%g'\n"
+                          "set yrange [{:.10g}:{:.10g}]\nset ytics {:.10g}, {:.10g}, {:.10g}\n"
+                          "set xzeroaxis linewidth 1.5 linecolor rgb '{}' linetype 1\n",
+                          quoted(labels.x), -reach, reach, -tic, tic, tic, curve_colours[0]);
     layers.clear();
     for (Eigen::Index d = 0; d < outputs; ++d) {
         const char* const colour = data_colours[static_cast<std::size_t>(d)];
@@ -178,7 +196,7 @@ void plot(const host::Model& model, const host::Data& data, const host::Fit& fit
                 fmt::format("$data{} using 1:4 with impulses linewidth 1 linecolor rgb '{}'", d + 1, colour));
         }
         layers.push_back(
-            fmt::format("$data{} using 1:4{} pointtype 7 pointsize 0.7 linewidth 1 linecolor rgb '{}'", d + 1,
+            fmt::format("$data{} using 1:4{} pointtype 7 pointsize 1 linewidth 1 linecolor rgb '{}'", d + 1,
                         bars ? ":3 with yerrorbars" : " with points", colour));
     }
     plot_layers();
