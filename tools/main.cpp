@@ -42,7 +42,7 @@ Example:
   ansatz show Lorentz)";
 
 constexpr const char* eval_footer = R"(
-Parameters are listed in order, or each by its number or symbol:
+Examples, with the parameters in their order, or each by its number or symbol:
   ansatz eval Gauss --params 0,450,8,4 --x 445,450,455
   ansatz eval Gauss --params y0=0,xc=450,w=8,A=4 --x 450 --derivatives
 Two peaks, as three more parameters:
@@ -145,6 +145,13 @@ int run(const std::vector<std::string>& arguments) {
     fit_command->add_flag("--json", fit_options.json, "Write JSON");
     fit_command->callback([&] { command = [&] { return ansatz::tools::fit(fit_options); }; });
 
+    if (!arguments.empty() && !arguments[0].starts_with("-") &&
+        std::ranges::none_of(app.get_subcommands({}),
+                             [&](const CLI::App* c) { return c->get_name() == arguments[0]; })) {
+        fmt::print(stderr, "ansatz: unknown command '{}'; the commands are list, show, eval and fit\n",
+                   arguments[0]);
+        return usage;
+    }
     try {
         std::vector<std::string> reversed = attach_lists(arguments); // as the parser wants them
         std::ranges::reverse(reversed);

@@ -82,26 +82,31 @@ std::vector<std::string> nearest_names(std::string_view name, std::size_t most) 
     return result;
 }
 
-std::optional<Model> Model::lookup(std::string_view name) {
-    std::uint16_t inputs = 0, outputs = 0, parameters = 0;
-    const std::string text(name);
-    Model model;
-    model.function_ = Get_Func(text.c_str(), &inputs, &outputs, &parameters, nullptr);
-    if (!model.function_) return std::nullopt;
-    const auto known = std::ranges::find_if(model_names(), [&](const auto& n) { return same_name(n, name); });
-    model.name_ = known == model_names().end() ? text : *known;
-    model.described_ = describe(model.name_);
-    model.inputs_ = inputs;
-    model.outputs_ = outputs;
-    model.default_size_ = parameters;
-    if (const Description* text_of = model.description(); text_of && !text_of->reserved) {
-        model.inputs_ = std::max(model.inputs_, text_of->inputs);
-        if (text_of->block.empty()) model.default_size_ = static_cast<int>(text_of->parameters.size());
+Model::Model(std::string name, FitFunction routine, int independent, int dependent, int parameters,
+             Described text_of)
+    : name_(std::move(name)), function_(routine), inputs_(independent), outputs_(dependent),
+      default_size_(parameters), described_(text_of) {
+    if (const Description* text = description(); text && !text->reserved) {
+        inputs_ = std::max(inputs_, text->inputs);
+        if (text->block.empty()) default_size_ = static_cast<int>(text->parameters.size());
     }
     double nothing[2] = {};
-    model.analytic_ = model.function_(FF_QUERY_DERIV, 0, model.default_size_, 0, 0, nothing, 0, nothing,
-                                      nothing, nothing) == 1;
-    return model;
+    analytic_ = function_(FF_QUERY_DERIV, 0, default_size_, 0, 0, nothing, 0, nothing, nothing, nothing) == 1;
+}
+
+Model Model::custom(std::string name, FitFunction routine, int independent, int dependent, int parameters,
+                    const Description* text) {
+    return {std::move(name), routine, independent, dependent, parameters, {text, "Custom"}};
+}
+
+std::optional<Model> Model::lookup(std::string_view name) {
+    std::uint16_t independent = 0, dependent = 0, parameters = 0;
+    const std::string text(name);
+    const FitFunction routine = Get_Func(text.c_str(), &independent, &dependent, &parameters, nullptr);
+    if (!routine) return std::nullopt;
+    const auto known = std::ranges::find_if(model_names(), [&](const auto& n) { return same_name(n, name); });
+    const std::string& spelling = known == model_names().end() ? text : *known;
+    return Model(spelling, routine, independent, dependent, parameters, describe(spelling));
 }
 
 Model Model::find(std::string_view name) {

@@ -35,6 +35,11 @@ public:
     static Model find(std::string_view name);
     static std::optional<Model> lookup(std::string_view name);
 
+    /// A routine of the caller's own that keeps to the protocol of ansatz.h. The description may be null and
+    /// must outlive the model.
+    static Model custom(std::string name, FitFunction routine, int independent, int dependent, int parameters,
+                        const Description* text = nullptr);
+
     const std::string& name() const { return name_; } ///< as in the catalogue
     FitFunction function() const { return function_; }
     int inputs() const { return inputs_; }      ///< number of independent variables
@@ -63,7 +68,8 @@ public:
     static int slot_index(const std::vector<Slot>& slots, std::string_view name);
 
 private:
-    Model() = default;
+    Model(std::string name, FitFunction routine, int independent, int dependent, int parameters,
+          Described text_of);
 
     std::string name_;
     FitFunction function_ = nullptr;
