@@ -78,6 +78,7 @@ int run(const std::vector<std::string>& arguments) {
                                 const std::string& help) {
         return to->add_option(name, values, help)
             ->expected(1)
+            ->allow_extra_args(false)
             ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
     };
 
