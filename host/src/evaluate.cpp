@@ -95,7 +95,7 @@ bool Evaluator::differentiate(int output_from) {
             return slope;
         };
         double best = std::numeric_limits<double>::infinity();
-        double step = 1e-5 * std::max(std::fabs(at), 0.1);
+        double step = 1e-4 * std::max(std::fabs(at), 0.1);
         for (int attempt = 0; attempt < 6; ++attempt, step /= 8) {
             const auto wide = difference(step), narrow = difference(step / 2);
             if (!wide || !narrow) continue;
@@ -104,7 +104,7 @@ bool Evaluator::differentiate(int output_from) {
             for (std::size_t d = size(output_from); d < size(outputs); ++d) {
                 const double gap = std::fabs((*wide)[d] - (*narrow)[d]);
                 const double rounding = 1e-15 * std::fabs(result_[d + 1]) / step;
-                settled = settled && gap <= std::max(1e-8 * std::fabs((*narrow)[d]), rounding);
+                settled = settled && gap <= std::max(1e-7 * std::fabs((*narrow)[d]), rounding);
                 disagreement = std::max(disagreement, gap);
             }
             if (!std::isfinite(disagreement)) continue;
