@@ -1,12 +1,12 @@
 #include "arguments.hpp"
 
+#include <ansatz/host/table.hpp>
+
 #include <fmt/format.h>
 #include <fmt/ranges.h>
 
 #include <algorithm>
 #include <array>
-#include <charconv>
-#include <cmath>
 
 namespace ansatz::tools {
 namespace {
@@ -25,15 +25,6 @@ std::vector<std::string> split(std::string_view text, std::string_view separator
     return parts;
 }
 
-std::optional<double> number(std::string_view text) {
-    if (text.size() > 1 && text[0] == '+' && text[1] != '-') text.remove_prefix(1);
-    double value = 0;
-    const char* const end = text.data() + text.size();
-    const auto [stop, error] = std::from_chars(text.data(), end, value);
-    if (error != std::errc{} || stop != end || !std::isfinite(value)) return std::nullopt;
-    return value;
-}
-
 /// Does this argument continue a list, rather than being an option, a file or a model? A list consists of
 /// numbers and of NAME=NUMBER.
 bool continues_list(const std::string& argument) {
@@ -41,7 +32,8 @@ bool continues_list(const std::string& argument) {
     return !parts.empty() && !argument.starts_with("--") &&
            std::ranges::all_of(parts, [](std::string_view part) {
                const auto equals = part.find('=');
-               return number(equals == std::string_view::npos ? part : part.substr(equals + 1)).has_value();
+               return host::parse_number(equals == std::string_view::npos ? part : part.substr(equals + 1))
+                   .has_value();
            });
 }
 
@@ -73,12 +65,12 @@ std::vector<Item> parse_items(const std::vector<std::string>& lists, std::string
         for (const std::string& part : split(list, ",; \t")) {
             const auto equals = part.find('=');
             if (equals != std::string::npos) {
-                const auto value = number(std::string_view(part).substr(equals + 1));
+                const auto value = host::parse_number(std::string_view(part).substr(equals + 1));
                 if (!value || equals == 0) {
                     throw Error(fmt::format("{}: '{}' is not of the form NAME=NUMBER", option, part));
                 }
                 items.push_back({part.substr(0, equals), value});
-            } else if (const auto value = number(part)) {
+            } else if (const auto value = host::parse_number(part)) {
                 items.push_back({{}, value});
             } else {
                 items.push_back({part, std::nullopt});
@@ -155,7 +147,7 @@ Eigen::MatrixXd parse_points(const host::Model& model, const std::vector<std::st
                                         parts.size()));
             }
             for (const std::string& part : parts) {
-                const auto value = number(part);
+                const auto value = host::parse_number(part);
                 if (!value) throw Error(fmt::format("--x: '{}' is not a number", part));
                 numbers.push_back(*value);
             }

@@ -331,6 +331,7 @@ Fit fit(const Model& model, const Data& data, const std::vector<Start>& start, c
     }
     if (!residuals.evaluate(free_values))
         throw FitError(failure_message(model, data, residuals.failed_point()));
+    const double first_norm = residuals.at().residuals.norm();
 
     CostFunction cost(residuals);
     ceres::Problem::Options ownership;
@@ -392,9 +393,19 @@ Fit fit(const Model& model, const Data& data, const std::vector<Start>& start, c
         const VectorXd projected = qr.householderQ().transpose() * residuals.at().residuals;
         result.relative_offset = projected.head(qr.rank()).norm() / residuals.at().residuals.norm();
     }
+    // The minimiser also stops when no step helps, as with wrong or useless derivatives. At a minimum the
+    // residuals are orthogonal to the tangent space, unless they are mere rounding.
+    const double scale = model.implicit() ? std::sqrt(static_cast<double>(result.points))
+                                          : residuals.roots().cwiseProduct(result.fitted).norm();
+    const bool exact = std::sqrt(result.rss) <= std::max(1e-10 * scale, 1e-12 * first_norm);
+    const bool at_minimum = exact || result.relative_offset < 1e-3;
     switch (summary.termination_type) {
     case ceres::CONVERGENCE:
-        result.converged = true;
+        result.converged = at_minimum;
+        if (!at_minimum) {
+            result.termination = "stopped short of a minimum: no step lowers the sum of squares";
+            break;
+        }
         result.termination = "converged: the sum of squares no longer decreases";
         break;
     case ceres::NO_CONVERGENCE:

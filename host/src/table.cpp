@@ -80,22 +80,26 @@ Cells split(std::string_view line, char separator) {
     return cells;
 }
 
+/// A cell's number, with a decimal comma where commas do not separate.
 std::optional<double> number(std::string_view text, char separator) {
     std::string plain(text);
     if (separator == ';' || separator == '\t') {
         const auto comma = plain.find(',');
         if (comma != std::string::npos && plain.find('.') == std::string::npos) plain[comma] = '.';
     }
-    const char* begin = plain.data();
-    const char* const end = begin + plain.size();
-    if (plain.size() > 1 && *begin == '+' && begin[1] != '-') ++begin;
-    double value = 0;
-    const auto [stop, error] = std::from_chars(begin, end, value);
-    if (error != std::errc{} || stop != end || !std::isfinite(value)) return std::nullopt;
-    return value;
+    return parse_number(plain);
 }
 
 } // namespace
+
+std::optional<double> parse_number(std::string_view text) {
+    if (text.size() > 1 && text[0] == '+' && text[1] != '-') text.remove_prefix(1);
+    double value = 0;
+    const char* const end = text.data() + text.size();
+    const auto [stop, error] = std::from_chars(text.data(), end, value);
+    if (error != std::errc{} || stop != end || !std::isfinite(value)) return std::nullopt;
+    return value;
+}
 
 Table Table::load(const std::string& path) {
     if (path == "-") return read(std::cin, "standard input");

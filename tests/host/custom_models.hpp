@@ -28,6 +28,17 @@ inline Model line() {
     return Model::custom("line", line_routine, 1, 1, 2);
 }
 
+/// y = P1 x with a derivative of the wrong sign, so that every step leads uphill.
+CUSTOM_ROUTINE(misleading_routine) {
+    if (flags & FF_QUERY_DERIV) return 1;
+    y[1] = P[1] * x[1];
+    if (flags & FF_DERIV) dyda[1] = -x[1];
+    return 0;
+}
+inline Model misleading() {
+    return Model::custom("misleading", misleading_routine, 1, 1, 1);
+}
+
 /// y = P1 + P2 + P3 x: the data do not tell P1 from P2.
 CUSTOM_ROUTINE(redundant_routine) {
     if (flags & FF_QUERY_DERIV) return 0;

@@ -189,6 +189,18 @@ TEST(Failure, WithoutConvergenceIsSaid) {
     EXPECT_EQ(stopped.termination, "stopped on request");
 }
 
+TEST(Failure, ShortOfAMinimumIsNoConvergence) {
+    const Data data{.x = vector({1, 2, 3}), .y = vector({1, 2.1, 2.9})};
+    const Fit stuck = fit(custom::misleading(), data, starts(custom::misleading(), {0}));
+    EXPECT_FALSE(stuck.converged);
+    EXPECT_NEAR(stuck.relative_offset, 1, 0.01);
+    const auto start = starts(custom::misleading(), {0});
+    EXPECT_TRUE(fit(custom::misleading(), data, start, {.derivatives = Derivatives::numerical}).converged);
+    // Exact data leave nothing but rounding in the residuals, in whatever direction.
+    const Data exact{.x = vector({1, 2, 3}), .y = vector({1.1, 2.2, 3.3})};
+    EXPECT_TRUE(fit(custom::line(), exact, starts(custom::line(), {0, 0})).converged);
+}
+
 TEST(Failure, OfTheRequestIsAnError) {
     const Regression line;
     const Model model = custom::line();

@@ -10,11 +10,15 @@
 #include <Eigen/Core>
 
 #include <istream>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace ansatz::host {
+
+/// The finite number that the whole of a text is.
+std::optional<double> parse_number(std::string_view text);
 
 class Table {
 public:
