@@ -118,7 +118,7 @@ std::function<bool(const host::Progress&)> progress_line(bool wanted) {
     };
 }
 
-/// "y0, w and A are": the parameters of these indices.
+/// "y0, w, A": the symbols of the parameters of these indices.
 std::string symbols(const host::Fit& fit, const std::vector<int>& indices) {
     std::vector<std::string> list;
     for (const int k : indices) list.push_back(fit.parameters[static_cast<std::size_t>(k)].slot.symbol);

@@ -246,7 +246,7 @@ void estimate_errors(Fit& fit, const Residuals& residuals, const std::vector<Ind
     for (const Index j : interior)
         slots.push_back(static_cast<int>(residuals.free()[static_cast<std::size_t>(j)]));
     if (n == 0) return;
-    const Eigen::JacobiSVD<MatrixXd> svd(jacobian, Eigen::ComputeThinU | Eigen::ComputeThinV);
+    const Eigen::JacobiSVD<MatrixXd> svd(jacobian, Eigen::ComputeThinV);
     const VectorXd& sigma = svd.singularValues();
     fit.condition = sigma[n - 1] > 0 ? sigma[0] / sigma[n - 1] : std::numeric_limits<double>::infinity();
 
