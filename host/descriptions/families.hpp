@@ -1,0 +1,18 @@
+// The families of descriptions. To describe a model, add an entry to the file of its family.
+#pragma once
+
+#include <ansatz/host/description.hpp>
+
+namespace ansatz::host::descriptions {
+
+Family peaks();
+Family sigmoids();
+Family exponentials();
+Family handbook();
+Family polynomials();
+Family distributions();
+Family surfaces();
+Family multi();
+Family reserved();
+
+} // namespace ansatz::host::descriptions

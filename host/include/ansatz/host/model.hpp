@@ -1,0 +1,81 @@
+// A model of the library as a C++ value: its dimensions, its parameters' names, its description.
+#pragma once
+
+#include <ansatz/ansatz.h>
+#include <ansatz/host/description.hpp>
+#include <ansatz/host/error.hpp>
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace ansatz::host {
+
+/// Every name of the catalogue, in its order.
+const std::vector<std::string>& model_names();
+
+/// Up to `most` names similar to this one, the most similar first.
+std::vector<std::string> nearest_names(std::string_view name, std::size_t most = 3);
+
+/// Do two names agree in any mix of upper and lower case?
+bool same_name(std::string_view a, std::string_view b);
+
+/// One parameter slot. P1 has index 0 here and in every vector of parameter values.
+struct Slot {
+    std::string number;  ///< "P3"
+    std::string symbol;  ///< "w", or "w1", "w2" with several peaks; the number where there is no description
+    std::string meaning; ///< may be empty
+    Role role = Role::estimated;
+};
+
+class Model {
+public:
+    /// Finds a model in any mix of upper and lower case. Throws UnknownModel.
+    static Model find(std::string_view name);
+    static std::optional<Model> lookup(std::string_view name);
+
+    /// A routine of the caller's own that keeps to the protocol of ansatz.h. The description may be null and
+    /// must outlive the model.
+    static Model custom(std::string name, FitFunction routine, int independent, int dependent, int parameters,
+                        const Description* text = nullptr);
+
+    const std::string& name() const { return name_; } ///< as in the catalogue
+    FitFunction function() const { return function_; }
+    int inputs() const { return inputs_; }      ///< number of independent variables
+    int outputs() const { return outputs_; }    ///< number of dependent variables, 1 or 2
+    bool analytic() const { return analytic_; } ///< does it offer derivatives of y[1]?
+    const Description* description() const { return described_.text; }
+    std::string_view family() const { return described_.family; }
+
+    bool replicated() const; ///< does the number of parameters decide the number of peaks or terms?
+    bool implicit() const;
+    bool reserved() const;
+
+    /// The number of parameter slots: of a replicated model by default, of any other always. It exceeds the
+    /// catalogue's number for the expected-value models, whose reference positions are slots as well.
+    int default_size() const { return default_size_; }
+
+    /// Throws Error, naming the parameters, unless the model can be called with n parameters. A model without
+    /// description takes any n from its default on: its row does not tell whether it has peaks.
+    void require_size(int n) const;
+
+    int blocks(int n) const;     ///< number of peaks or terms among n parameters; 0 for a model of fixed size
+    int components(int n) const; ///< number of contributions behind y[1]
+    std::vector<Slot> slots(int n) const;
+
+    /// The index of the slot addressed as "P3", or by its symbol. Throws Error.
+    static int slot_index(const std::vector<Slot>& slots, std::string_view name);
+
+private:
+    Model(std::string name, FitFunction routine, int independent, int dependent, int parameters,
+          Described text_of);
+
+    std::string name_;
+    FitFunction function_ = nullptr;
+    int inputs_ = 0, outputs_ = 0, default_size_ = 0;
+    bool analytic_ = false;
+    Described described_;
+};
+
+} // namespace ansatz::host

@@ -1,0 +1,183 @@
+// The command from outside: exit statuses, messages, output for scripts.
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cmath>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+struct Outcome {
+    int status;
+    std::string out, err;
+};
+
+/// A directory of its own for each test, with a few files of data, as the working directory.
+class Command : public testing::Test {
+protected:
+    void SetUp() override {
+        std::string name = (fs::temp_directory_path() / "ansatz-XXXXXX").string();
+        ASSERT_NE(mkdtemp(name.data()), nullptr);
+        directory_ = name;
+        fs::copy_file(fs::path(ANSATZ_EXAMPLES) / "eckerle4.csv", directory_ / "e.csv");
+        write("bad.csv", "x,y\n1,2\n2,abc\n3,4\n");
+        write("ragged.csv", "1 2\n2 3 4\n");
+        write("few.csv", "1 2\n2 3\n3 4\n");
+        write("peak.csv", "sd;signal;position\n1;3;-2\n1;4;-1\n1;6;0\n1;4;1\n2;3;2\n2;2.5;3\n");
+        write("empty.csv", "");
+    }
+    void TearDown() override { fs::remove_all(directory_); }
+
+    void write(const std::string& name, const std::string& text) const {
+        std::ofstream(directory_ / name) << text;
+    }
+    std::string read(const std::string& name) const {
+        std::ostringstream text;
+        text << std::ifstream(directory_ / name, std::ios::binary).rdbuf();
+        return text.str();
+    }
+
+    Outcome run(const std::string& arguments, const std::string& before = "") const {
+        const std::string line = "cd '" + directory_.string() + "' && " + before + " '" ANSATZ_COMMAND "' " +
+                                 arguments + " >out 2>err";
+        const int status = std::system(line.c_str());
+        return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, read("out"), read("err")};
+    }
+
+    fs::path directory_;
+};
+
+} // namespace
+
+TEST_F(Command, RefusesWithOneClearLine) {
+    const struct {
+        const char* arguments;
+        int status;
+        const char* message;
+    } cases[] = {
+        {"", 2, "subcommand is required"},
+        {"frobnicate", 2, "unknown command 'frobnicate'"},
+        {"list zzzzz", 2, "no model's name contains or matches 'zzzzz'"},
+        {"show Gaus", 2, "unknown model 'Gaus'; did you mean Gauss"},
+        {"eval Gauss --params 0,1,1 --x 1", 2, "Gauss needs 1 (y0), then 3 per peak (xc, w, A)"},
+        {"eval Gauss --params 0,1,1,1 --x one", 2, "--x: 'one' is not a number"},
+        {"eval Plane --params 1,2,3 --x 1", 2, "takes 2 x values per point"},
+        {"eval Gauss --params 0,1,0,1 --x 1", 1, "Gauss fails at 1 of 1 points"},
+        {"fit Gauss nofile.csv --start 0,1,1,1", 2, "cannot read the file 'nofile.csv'"},
+        {"fit Gauss empty.csv --start 0,1,1,1", 2, "empty.csv: the file is empty"},
+        {"fit Gauss bad.csv --start 0,1,1,1", 2, "bad.csv: line 3, column 2: 'abc' is not a number"},
+        {"fit Gauss ragged.csv --start 0,1,1,1", 2,
+         "ragged.csv: line 2 has 3 columns, the lines before have 2"},
+        {"fit Gauss few.csv --start 0,1,1,1", 2, "3 data value(s) cannot determine 4 free parameters"},
+        {"fit Gauss e.csv", 2, "--start is required"},
+        {"fit Gauss e.csv --start 0,450,10", 2, "4 or 7 parameters and so on, 3 given"},
+        {"fit Gauss e.csv --start 0,450,wide,4", 2, "--start: 'wide' is not a number"},
+        {"fit Gauss e.csv --start xc=450,w=10", 2, "--start: no value for y0, A"},
+        {"fit Gauss e.csv --start 0,450,10,4 --fix Q=0", 2,
+         "unknown parameter 'Q'; the parameters are P1 or y0"},
+        {"fit Gauss e.csv --start 0,450,10,4 --lower w", 2, "--lower: give NAME=NUMBER"},
+        {"fit Gauss e.csv --start 0,450,10,4 --lower w=20", 2, "the start value 10 of w is outside its bounds"},
+        {"fit Gauss e.csv --start 0,450,10,4 --y height", 2, "no column 'height'; the columns are wavelength"},
+        {"fit Gauss e.csv --start 0,450,10,4 --errors 3", 2, "no column 3"},
+        {"fit Gauss e.csv --start 0,450,10,4 --plot fit.pdf", 2, "'fit.pdf' must end in .svg or .png"},
+        {"fit Gauss e.csv --start 0,450,0,4", 1, "at x = 400 (data point 1)"},
+        {"fit Gauss e.csv --start 0,450,10,4 --max-iterations 1", 1, "the fit did not converge"},
+        {"fit Prunty e.csv --start 1,2,3,4", 2, "reserved name that computes nothing"},
+        {"fit Gauss e.csv --start 0,450,10,4 --speed 3", 2, "--speed"},
+    };
+    for (const auto& [arguments, status, message] : cases) {
+        const Outcome outcome = run(arguments);
+        EXPECT_EQ(outcome.status, status) << arguments;
+        EXPECT_TRUE(outcome.err.starts_with("ansatz: ")) << arguments << "\n" << outcome.err;
+        EXPECT_NE(outcome.err.find(message), std::string::npos) << arguments << "\n" << outcome.err;
+        EXPECT_EQ(std::ranges::count(outcome.err, '\n'), 1) << arguments << "\n" << outcome.err;
+    }
+}
+
+TEST_F(Command, HelpsEverywhere) {
+    for (const char* arguments : {"--help", "list --help", "show --help", "eval --help", "fit --help"}) {
+        const Outcome outcome = run(arguments);
+        EXPECT_EQ(outcome.status, 0) << arguments;
+        EXPECT_NE(outcome.out.find("Example"), std::string::npos) << arguments;
+        EXPECT_EQ(outcome.err, "") << arguments;
+    }
+    EXPECT_TRUE(run("--version").out.starts_with("ansatz "));
+}
+
+TEST_F(Command, FitsTheExample) {
+    const Outcome outcome = run("fit Gauss e.csv --start 0,450,10,4 --fix P1=0 --json");
+    ASSERT_EQ(outcome.status, 0) << outcome.err;
+    const auto json = nlohmann::json::parse(outcome.out);
+    EXPECT_NEAR(json["parameters"][1]["value"].get<double>(), 451.54121844, 1e-7);
+    EXPECT_NEAR(json["parameters"][1]["standard_error"].get<double>(), 4.6800518816e-2, 1e-10);
+    EXPECT_TRUE(json["parameters"][0]["standard_error"].is_null());
+    EXPECT_EQ(json["data"]["y"][0], "transmittance");
+    const Outcome text = run("fit gauss e.csv --start 0,450,10,4 --fix P1=0");
+    EXPECT_NE(text.out.find("451.5412184"), std::string::npos) << text.out;
+    EXPECT_NE(text.out.find("(fixed)"), std::string::npos);
+}
+
+TEST_F(Command, TakesStartValuesInEveryForm) {
+    // Forms of one start, with a negative number in first place.
+    for (const char* start :
+         {"--start -1,450,10,4", "--start=-1,450,10,4", "--start -1 450 10 4", "--start y0=-1,xc=450,w=10,A=4",
+          "--start P4=4 w=10 P2=450 --fix y0=-1 --free y0", "--start 5,450,10,4 --fix P1=-1 --free P1"}) {
+        const Outcome outcome = run(std::string("fit Gauss ") + start + " e.csv --json");
+        ASSERT_EQ(outcome.status, 0) << start << outcome.err;
+        const auto json = nlohmann::json::parse(outcome.out);
+        const double expected[] = {-1, 450, 10, 4};
+        for (std::size_t k = 0; k < 4; ++k) EXPECT_EQ(json["parameters"][k]["start"], expected[k]) << start;
+    }
+}
+
+TEST_F(Command, ChoosesColumnsAndWeights) {
+    const auto json = nlohmann::json::parse(
+        run("fit Lorentz peak.csv --x position --y signal --errors sd --start 2,0,2,10 --lower w=0 --json")
+            .out);
+    EXPECT_EQ(json["data"]["x"][0], "position");
+    EXPECT_TRUE(json["converged"]);
+    // Without names, the columns not taken by --errors serve in their order.
+    const auto free = nlohmann::json::parse(run("fit Lorentz peak.csv --errors 1 --start 0,4,2,1 --json").out);
+    EXPECT_EQ(free["data"]["x"][0], "signal");
+    EXPECT_EQ(free["data"]["y"][0], "position");
+}
+
+TEST_F(Command, ReadsStandardInput) {
+    EXPECT_EQ(run("fit Gauss - --start 0,450,10,4 <e.csv").status, 0);
+}
+
+TEST_F(Command, EvaluatesPoints) {
+    const Outcome table = run("eval Gauss --params 0,-450,8,4 --x -450 -460 --derivatives");
+    EXPECT_EQ(std::ranges::count(table.out, '\n'), 3) << table.out;
+    const auto json = nlohmann::json::parse(run("eval Gauss --params 0,450,8,4 --x 450,1e9 --json").out);
+    EXPECT_NEAR(json["points"][0]["y"].get<double>(), 4 / (8 * std::sqrt(M_PI / 2)), 1e-12);
+    EXPECT_EQ(json["points"][1]["y"], 0.0);
+    const Outcome missing = run("eval Gauss --params 0,1,0,1 --x 1");
+    EXPECT_NE(missing.out.find("missing"), std::string::npos);
+    EXPECT_TRUE(
+        nlohmann::json::parse(run("eval Gauss --params 0,1,0,1 --x 1 --json").out)["points"][0]["y"].is_null());
+}
+
+TEST_F(Command, ListsTheCatalogue) {
+    EXPECT_EQ(nlohmann::json::parse(run("list --json").out).size(), 238u);
+    EXPECT_EQ(nlohmann::json::parse(run("list 'LORENT?' --json").out)[0]["name"], "Lorentz");
+    EXPECT_EQ(nlohmann::json::parse(run("show lorentz --json").out)["block"]["parameters"][1]["symbol"], "w");
+}
+
+TEST_F(Command, DrawsWithGnuplotOrSaysThatItIsMissing) {
+    const std::string fit = "fit Gauss e.csv --start 0,450,10,4 --plot fit.";
+    EXPECT_NE(run(fit + "svg", "PATH=/nowhere").err.find("needs gnuplot"), std::string::npos);
+    if (std::system("command -v gnuplot >/dev/null") != 0) GTEST_SKIP() << "gnuplot is not installed";
+    ASSERT_EQ(run(fit + "svg").status, 0);
+    EXPECT_NE(read("fit.svg").find("transmittance"), std::string::npos);
+    ASSERT_EQ(run(fit + "png").status, 0);
+    EXPECT_TRUE(read("fit.png").starts_with("\x89PNG"));
+}

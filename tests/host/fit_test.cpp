@@ -1,0 +1,216 @@
+// Fits with known answers: certified values, closed forms, exact data.
+
+#include "custom_models.hpp"
+
+#include <ansatz/host/fit.hpp>
+
+#include <gtest/gtest.h>
+
+using namespace ansatz::host;
+
+namespace {
+
+Eigen::VectorXd vector(std::initializer_list<double> values) {
+    return Eigen::Map<const Eigen::VectorXd>(values.begin(), std::ssize(values));
+}
+
+void expect_relative(double actual, double expected, double tolerance, const char* what) {
+    EXPECT_NEAR(actual, expected, tolerance * std::fabs(expected)) << what;
+}
+
+Data eckerle4() {
+    return {.x = vector({400,   405, 410,   415, 420,   425, 430,   435, 436.5, 438, 439.5, 441,
+                         442.5, 444, 445.5, 447, 448.5, 450, 451.5, 453, 454.5, 456, 457.5, 459,
+                         460.5, 462, 463.5, 465, 470,   475, 480,   485, 490,   495, 500}),
+            .y = vector({0.0001575, 0.0001699, 0.0002350, 0.0003102, 0.0004917, 0.0008710, 0.0017418,
+                         0.0046400, 0.0065895, 0.0097302, 0.0149002, 0.0237310, 0.0401683, 0.0712559,
+                         0.1264458, 0.2073413, 0.2902366, 0.3445623, 0.3698049, 0.3668534, 0.3106727,
+                         0.2078154, 0.1164354, 0.0616764, 0.0337200, 0.0194023, 0.0117831, 0.0074357,
+                         0.0022732, 0.0008800, 0.0004579, 0.0002345, 0.0001586, 0.0001143, 0.0000710})};
+}
+
+/// The certified fit of (b1/b2) exp(-0.5 ((x - b3)/b2)^2), in the terms of "Gauss" with its offset held at 0.
+void expect_certified(const Fit& fit) {
+    const double area = std::sqrt(2 * M_PI);
+    const auto& P = fit.parameters;
+    EXPECT_TRUE(fit.converged) << fit.termination;
+    expect_relative(P[1].value, 451.54121844, 1e-10, "centre");
+    expect_relative(P[2].value, 2 * 4.0888321754, 2e-10, "width");
+    expect_relative(P[3].value, area * 1.5543827178, 2e-10, "area");
+    ASSERT_TRUE(P[1].error && P[2].error && P[3].error);
+    EXPECT_FALSE(P[0].error);
+    expect_relative(*P[1].error, 4.6800518816e-2, 1e-9, "error of the centre");
+    expect_relative(*P[2].error, 2 * 4.6803020753e-2, 1e-9, "error of the width");
+    expect_relative(*P[3].error, area * 1.5408051163e-2, 1e-9, "error of the area");
+    expect_relative(fit.rss, 1.4635887487e-3, 1e-10, "residual sum of squares");
+    EXPECT_EQ(fit.degrees_of_freedom, 32);
+    expect_relative(std::sqrt(*fit.reduced_chi_square), 6.7629245447e-3, 1e-10, "residual standard deviation");
+}
+
+/// y against x at four points, with weights; the line through them by the textbook's sums.
+struct Regression {
+    Data data{.x = vector({1, 2, 3, 5}), .y = vector({1.5, 2, 4, 5}), .weights = vector({1, 2, 3, 0.5})};
+    double Sw = 0, Sx = 0, Sy = 0, Sxx = 0, Sxy = 0;
+    double a, b, D;
+
+    Regression() {
+        for (Eigen::Index i = 0; i < 4; ++i) {
+            const double w = data.weights(i, 0), x = data.x(i, 0), y = data.y(i, 0);
+            Sw += w, Sx += w * x, Sy += w * y, Sxx += w * x * x, Sxy += w * x * y;
+        }
+        D = Sw * Sxx - Sx * Sx;
+        a = (Sxx * Sy - Sx * Sxy) / D;
+        b = (Sw * Sxy - Sx * Sy) / D;
+    }
+};
+
+} // namespace
+
+TEST(Certified, Eckerle4FromTwoStarts) {
+    const Model gauss = Model::find("Gauss");
+    // What one reads off the plot, and NIST's remote start: b = (1, 10, 500).
+    for (const auto& guess : {std::vector{0.0, 450.0, 10.0, 4.0}, {0.0, 500.0, 20.0, 2.5}}) {
+        auto start = starts(gauss, guess);
+        start[0].fixed = true;
+        expect_certified(fit(gauss, eckerle4(), start));
+    }
+}
+
+TEST(Certified, Eckerle4WithNumericalDerivatives) {
+    const Model gauss = Model::find("Gauss");
+    auto start = starts(gauss, {0, 450, 10, 4});
+    start[0].fixed = true;
+    const Fit result = fit(gauss, eckerle4(), start, {.derivatives = Derivatives::numerical});
+    EXPECT_TRUE(result.numerical);
+    expect_certified(result);
+}
+
+TEST(Weights, GiveTheClosedFormOfAWeightedLine) {
+    const Regression line;
+    const Fit result = fit(custom::line(), line.data, starts(custom::line(), {0, 0}));
+    const double scale = *result.reduced_chi_square;
+    expect_relative(result.parameters[0].value, line.a, 1e-13, "intercept");
+    expect_relative(result.parameters[1].value, line.b, 1e-13, "slope");
+    expect_relative(*result.parameters[0].error, std::sqrt(scale * line.Sxx / line.D), 1e-12,
+                    "error of intercept");
+    expect_relative(*result.parameters[1].error, std::sqrt(scale * line.Sw / line.D), 1e-12, "error of slope");
+    expect_relative(result.correlation(0, 1), -line.Sx / std::sqrt(line.Sw * line.Sxx), 1e-12, "correlation");
+
+    const Fit known = fit(custom::line(), line.data, starts(custom::line(), {0, 0}), {.known_errors = true});
+    expect_relative(*known.parameters[1].error, std::sqrt(line.Sw / line.D), 1e-12, "error from known errors");
+}
+
+TEST(Weights, OfZeroRemoveAPoint) {
+    Regression line;
+    line.data.weights(3, 0) = 0;
+    EXPECT_EQ(fit(custom::line(), line.data, starts(custom::line(), {0, 0})).degrees_of_freedom, 1);
+    line.data.weights(3, 0) = -1;
+    EXPECT_THROW(fit(custom::line(), line.data, starts(custom::line(), {0, 0})), Error);
+}
+
+TEST(Bounds, HoldTheSlopeAndLeaveItsErrorOut) {
+    const Regression line; // its slope is above 0.9
+    auto start = starts(custom::line(), {0, 0});
+    start[1].upper = 0.5;
+    const Fit result = fit(custom::line(), line.data, start);
+    EXPECT_EQ(result.parameters[1].value, 0.5);
+    EXPECT_TRUE(result.parameters[1].at_upper);
+    EXPECT_FALSE(result.parameters[1].error);
+    expect_relative(result.parameters[0].value, (line.Sy - 0.5 * line.Sx) / line.Sw, 1e-12, "intercept");
+    EXPECT_TRUE(result.parameters[0].error);
+}
+
+TEST(Bounds, ThatNothingReachesChangeNothing) {
+    const Model gauss = Model::find("Gauss");
+    auto start = starts(gauss, {0, 450, 10, 4});
+    start[0].fixed = true;
+    start[2].lower = 1;
+    start[3].upper = 10;
+    expect_certified(fit(gauss, eckerle4(), start));
+}
+
+TEST(ReferencePositions, StayWhereTheyAreSet) {
+    const Regression line;
+    const Fit result =
+        fit(custom::expected(), {.x = line.data.x, .y = line.data.y, .weights = line.data.weights},
+            starts(custom::expected(), {2, 0, 0}));
+    EXPECT_EQ(result.parameters[0].value, 2);
+    EXPECT_TRUE(result.parameters[0].fixed);
+    expect_relative(result.parameters[1].value, line.a + 2 * line.b, 1e-11, "expected response");
+}
+
+TEST(TwoOutputs, AreFittedJointly) {
+    const Eigen::VectorXd x = Eigen::VectorXd::LinSpaced(9, 0, 4);
+    Eigen::MatrixXd y(9, 2);
+    y.col(0) = 1 + 0.5 * x.array();
+    y.col(1) = 3 * (-0.5 * x.array()).exp();
+    const Fit result = fit(custom::pair(), {.x = x, .y = y}, starts(custom::pair(), {0, 0.1, 1}));
+    EXPECT_EQ(result.residuals, 18);
+    expect_relative(result.parameters[0].value, 1, 1e-9, "P1");
+    expect_relative(result.parameters[1].value, 0.5, 1e-9, "P2, in both columns");
+    expect_relative(result.parameters[2].value, 3, 1e-9, "P3");
+}
+
+TEST(Implicit, CircleThroughItsPoints) {
+    Eigen::MatrixXd x(7, 2);
+    for (int i = 0; i < 7; ++i) x.row(i) << 1 + 3 * std::cos(i), 2 + 3 * std::sin(i);
+    const Fit result = fit(custom::circle(), {.x = x}, starts(custom::circle(), {0, 0, 1}));
+    expect_relative(result.parameters[0].value, 1, 1e-9, "centre");
+    expect_relative(result.parameters[1].value, 2, 1e-9, "centre");
+    expect_relative(std::fabs(result.parameters[2].value), 3, 1e-9, "radius");
+    EXPECT_FALSE(result.r_squared);
+}
+
+TEST(Covariance, OfARedundantModelIsRefusedByName) {
+    const Regression line;
+    const Fit result = fit(custom::redundant(), line.data, starts(custom::redundant(), {0, 0, 0}));
+    EXPECT_EQ(result.undetermined, (std::vector<int>{0, 1}));
+    for (const Estimate& parameter : result.parameters) EXPECT_FALSE(parameter.error);
+}
+
+TEST(Failure, AtTheStartNamesThePoint) {
+    Eigen::MatrixXd x(3, 2);
+    x << 1, 1, -4, 2, 3, 5;
+    try {
+        fit(custom::surface(), {.x = x, .y = vector({1, 2, 3})}, starts(custom::surface(), {1, 1}));
+        FAIL();
+    } catch (const FitError& error) {
+        EXPECT_NE(std::string(error.what()).find("x = -4, 2 (data point 2)"), std::string::npos)
+            << error.what();
+    }
+}
+
+TEST(Failure, WithoutConvergenceIsSaid) {
+    const Model gauss = Model::find("Gauss");
+    EXPECT_FALSE(fit(gauss, eckerle4(), starts(gauss, {0, 450, 10, 4}), {.max_iterations = 2}).converged);
+    const auto stop = [](const Progress& progress) { return progress.iteration < 3; };
+    const Fit stopped = fit(gauss, eckerle4(), starts(gauss, {0, 450, 10, 4}), {.progress = stop});
+    EXPECT_FALSE(stopped.converged);
+    EXPECT_EQ(stopped.termination, "stopped on request");
+}
+
+TEST(Failure, ShortOfAMinimumIsNoConvergence) {
+    const Data data{.x = vector({1, 2, 3}), .y = vector({1, 2.1, 2.9})};
+    const Fit stuck = fit(custom::misleading(), data, starts(custom::misleading(), {0}));
+    EXPECT_FALSE(stuck.converged);
+    EXPECT_NEAR(stuck.relative_offset, 1, 0.01);
+    const auto start = starts(custom::misleading(), {0});
+    EXPECT_TRUE(fit(custom::misleading(), data, start, {.derivatives = Derivatives::numerical}).converged);
+    // Exact data leave nothing but rounding in the residuals, in whatever direction.
+    const Data exact{.x = vector({1, 2, 3}), .y = vector({1.1, 2.2, 3.3})};
+    EXPECT_TRUE(fit(custom::line(), exact, starts(custom::line(), {0, 0})).converged);
+}
+
+TEST(Failure, OfTheRequestIsAnError) {
+    const Regression line;
+    const Model model = custom::line();
+    auto fixed = starts(model, {0, 0});
+    fixed[0].fixed = fixed[1].fixed = true;
+    EXPECT_THROW(fit(model, line.data, fixed), Error);
+    auto outside = starts(model, {0, 0});
+    outside[0].lower = 1;
+    EXPECT_THROW(fit(model, line.data, outside), Error);
+    EXPECT_THROW(fit(model, {.x = vector({1}), .y = vector({1})}, starts(model, {0, 0})), Error);
+    EXPECT_THROW(fit(model, {.x = vector({1, 2}), .y = vector({1})}, starts(model, {0, 0})), Error);
+    EXPECT_THROW(fit(model, line.data, starts(model, {0, 0, 0, 0, std::nan("")})), Error);
+}

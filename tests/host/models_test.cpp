@@ -1,0 +1,165 @@
+// Names, parameters and evaluation.
+
+#include "custom_models.hpp"
+
+#include <ansatz/host/evaluate.hpp>
+
+#include <gtest/gtest.h>
+
+using namespace ansatz::host;
+
+namespace {
+
+/// The message of the Error that a call throws.
+template <class Call> std::string error_of(Call call) {
+    try {
+        call();
+    } catch (const Error& error) {
+        return error.what();
+    }
+    return "no error";
+}
+
+Eigen::VectorXd vector(std::initializer_list<double> values) {
+    return Eigen::Map<const Eigen::VectorXd>(values.begin(), std::ssize(values));
+}
+
+std::vector<std::string> symbols(const Model& model, int n) {
+    std::vector<std::string> result;
+    for (const Slot& slot : model.slots(n)) result.push_back(slot.symbol);
+    return result;
+}
+
+} // namespace
+
+TEST(Names, AreThoseOfTheCatalogue) {
+    EXPECT_EQ(model_names().size(), 238u);
+    for (const std::string& name : model_names()) EXPECT_EQ(Model::find(name).name(), name);
+}
+
+TEST(Names, IgnoreCase) {
+    EXPECT_EQ(Model::find("gAUSS").name(), "Gauss");
+    EXPECT_FALSE(Model::lookup("Gauß"));
+}
+
+TEST(Names, UnknownOnesComeWithTheNearest) {
+    EXPECT_EQ(nearest_names("lorents").front(), "Lorentz");
+    try {
+        Model::find("gaus");
+        FAIL();
+    } catch (const UnknownModel& error) {
+        EXPECT_EQ(error.nearest().front(), "Gauss");
+    }
+}
+
+TEST(Descriptions, BelongToTheCatalogueAndAgreeWithItsDimensions) {
+    std::vector<std::string_view> seen;
+    for (const Family& family : families()) {
+        for (const Description& text : family.models) {
+            const auto model = Model::lookup(text.name);
+            ASSERT_TRUE(model) << text.name;
+            EXPECT_EQ(model->name(), text.name);
+            EXPECT_EQ(std::ranges::count(seen, text.name), 0) << text.name << " is described twice";
+            seen.push_back(text.name);
+            if (text.reserved) continue;
+            std::uint16_t parameters = 0;
+            Get_Func(model->name().c_str(), nullptr, nullptr, &parameters, nullptr);
+            EXPECT_GE(model->default_size(), parameters) << text.name;
+            EXPECT_NO_THROW(model->require_size(model->default_size())) << text.name;
+            EXPECT_FALSE(text.formula.empty()) << text.name;
+        }
+    }
+}
+
+TEST(Parameters, AreNumberedByPeakOnlyWithSeveralPeaks) {
+    const Model gauss = Model::find("Gauss");
+    EXPECT_EQ(symbols(gauss, 4), (std::vector<std::string>{"y0", "xc", "w", "A"}));
+    EXPECT_EQ(symbols(gauss, 7), (std::vector<std::string>{"y0", "xc1", "w1", "A1", "xc2", "w2", "A2"}));
+    EXPECT_EQ(symbols(custom::series(), 1), (std::vector<std::string>{"a0"}));
+    EXPECT_EQ(symbols(custom::line(), 2), (std::vector<std::string>{"P1", "P2"}));
+}
+
+TEST(Parameters, OfAnExpectedValueModelIncludeItsReferencePositions) {
+    EXPECT_EQ(custom::expected().default_size(), 3);
+}
+
+TEST(Parameters, AreFoundByNumberAndSymbol) {
+    const auto slots = Model::find("Gauss").slots(4);
+    EXPECT_EQ(Model::slot_index(slots, "P4"), 3);
+    EXPECT_EQ(Model::slot_index(slots, "XC"), 1);
+    EXPECT_NE(error_of([&] { Model::slot_index(slots, "q"); }).find("P2 or xc"), std::string::npos);
+}
+
+TEST(Parameters, WrongNumbersAreExplained) {
+    EXPECT_EQ(error_of([] { Model::find("Gauss").require_size(5); }),
+              "Gauss needs 1 (y0), then 3 per peak (xc, w, A): 4 or 7 parameters and so on, 5 given");
+    EXPECT_EQ(error_of([] { custom::circle().require_size(2); }),
+              "circle needs 3 parameters (xc, yc, r), 2 given");
+    EXPECT_NE(error_of([] { custom::series().require_size(4); }).find("at most 3"), std::string::npos);
+    EXPECT_NE(error_of([] { custom::line().require_size(1); }), "no error");
+    EXPECT_NE(error_of([] { Model::find("Prunty").require_size(4); }).find("reserved"), std::string::npos);
+}
+
+TEST(Evaluation, GivesValueComponentsAndDerivatives) {
+    // At the centre of one of two peaks far apart: y0 + A/(w sqrt(pi/2)), and no slope by the centre.
+    const double height = 4 / (8 * std::sqrt(M_PI / 2));
+    const Evaluation result =
+        evaluate(Model::find("Gauss"), vector({1, 450, 8, 4, 900, 8, 2}), vector({450, 900}), true);
+    EXPECT_NEAR(result.y(0, 0), 1 + height, 1e-11);
+    EXPECT_NEAR(result.components(0, 0), height, 1e-11);
+    EXPECT_NEAR(result.components(1, 1), height / 2, 1e-11);
+    EXPECT_EQ(result.jacobian[0](0, 1), 0);
+    EXPECT_NEAR(result.jacobian[0](0, 3), height / 4, 1e-11);
+}
+
+TEST(Evaluation, LeavesNoDerivativesOfAnotherPointInSkippedSlots) {
+    const Evaluation result =
+        evaluate(Model::find("Gauss"), vector({0, 1, 2, 0, 5, 2, 3}), vector({1, 2}), true);
+    EXPECT_TRUE(result.all_ok());
+    EXPECT_EQ(result.jacobian[0](1, 3), 0);
+    EXPECT_EQ(result.components(1, 0), 0);
+}
+
+TEST(Evaluation, DifferencesAgreeWithTheModelsOwnDerivatives) {
+    Eigen::VectorXd x = Eigen::VectorXd::LinSpaced(41, 430, 470);
+    for (const char* name : {"Gauss", "Lorentz"}) {
+        const Model model = Model::find(name);
+        const auto P = vector({0, 451.5, 0.8, 400});
+        const auto own = evaluate(model, P, x, true);
+        const auto taken = evaluate(model, P, x, true, Derivatives::numerical);
+        for (Eigen::Index k = 0; k < P.size(); ++k) {
+            const double largest = own.jacobian[0].col(k).cwiseAbs().maxCoeff();
+            EXPECT_LT((own.jacobian[0] - taken.jacobian[0]).col(k).cwiseAbs().maxCoeff(), 1e-8 * largest)
+                << name << " P" << k + 1;
+        }
+    }
+}
+
+TEST(Evaluation, OfTwoOutputsCompletesTheDerivatives) {
+    const Evaluation result = evaluate(custom::pair(), vector({1, 0.5, 3}), vector({2}), true);
+    EXPECT_EQ(result.y(0, 0), 2);
+    EXPECT_NEAR(result.y(0, 1), 3 * std::exp(-1), 1e-15);
+    EXPECT_EQ(result.jacobian[0](0, 1), 2);
+    EXPECT_NEAR(result.jacobian[1](0, 1), -6 * std::exp(-1), 1e-9);
+    EXPECT_NEAR(result.jacobian[1](0, 2), std::exp(-1), 1e-9);
+}
+
+TEST(Evaluation, MarksTheFailingPointsAlone) {
+    Eigen::MatrixXd x(3, 2);
+    x << 4, 10, -1, 10, 9, 10;
+    const Evaluation result = evaluate(custom::surface(), vector({1, 2}), x, true);
+    EXPECT_EQ(result.ok, (std::vector<char>{1, 0, 1}));
+    EXPECT_EQ(result.y(2, 0), 23);
+    EXPECT_TRUE(std::isnan(result.y(1, 0)));
+}
+
+TEST(Evaluation, TakesSuccessWithoutAValueForFailure) {
+    EXPECT_FALSE(evaluate(custom::circle(), vector({0, 0, 0}), Eigen::MatrixXd::Zero(1, 2)).all_ok());
+    // A placeholder's routine reports success and writes nothing.
+    const Model placeholder = Model::custom("placeholder", get_funx("Prunty"), 1, 1, 4);
+    EXPECT_FALSE(evaluate(placeholder, vector({1, 2, 3, 4}), vector({1})).all_ok());
+}
+
+TEST(Evaluation, SurvivesModelsThatReachBehindTheirParameters) {
+    EXPECT_EQ(evaluate(custom::series(), vector({1, 2, 3}), vector({2}), true).y(0, 0), 17);
+}

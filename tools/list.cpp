@@ -1,0 +1,73 @@
+// ansatz list: the catalogue, by family.
+
+#include "commands.hpp"
+#include "report.hpp"
+
+#include <fmt/format.h>
+#include <fmt/ranges.h>
+#include <fnmatch.h>
+
+#include <algorithm>
+#include <cctype>
+#include <map>
+
+namespace ansatz::tools {
+namespace {
+
+std::string lower(std::string text) {
+    for (char& c : text) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    return text;
+}
+
+/// A pattern with * or ? has to match the whole name, any other has to occur in it.
+bool matches(const std::string& name, const std::string& pattern) {
+    const std::string folded = lower(name), wanted = lower(pattern);
+    if (wanted.find_first_of("*?[") == std::string::npos) return folded.find(wanted) != std::string::npos;
+    return fnmatch(wanted.c_str(), folded.c_str(), 0) == 0;
+}
+
+} // namespace
+
+int list(const ListOptions& options) {
+    std::map<std::string_view, std::vector<host::Model>> found;
+    for (const std::string& name : host::model_names()) {
+        if (!matches(name, options.pattern)) continue;
+        host::Model model = host::Model::find(name);
+        found[model.family()].push_back(std::move(model));
+    }
+    if (found.empty()) {
+        const auto nearest = host::nearest_names(options.pattern);
+        throw host::Error(
+            fmt::format("no model's name contains or matches '{}'{}", options.pattern,
+                        nearest.empty() ? "" : fmt::format("; near it: {}", fmt::join(nearest, ", "))));
+    }
+    std::vector<std::string_view> order;
+    for (const host::Family& family : host::families()) order.push_back(family.title);
+    order.push_back(host::Described{}.family);
+
+    Json json = Json::array();
+    bool first = true;
+    for (const std::string_view family : order) {
+        if (!found.contains(family)) continue;
+        TextTable table({{"model", Align::left},
+                         {"x", Align::right},
+                         {"y", Align::right},
+                         {"parameters", Align::left},
+                         {"formula", Align::left}});
+        for (const host::Model& model : found[family]) {
+            json.push_back(describe_json(model));
+            std::string formula(model.description() ? model.description()->formula : "");
+            if (model.reserved()) formula = "reserved name, computes nothing";
+            table.add({model.name(), fmt::format("{}", model.inputs()),
+                       model.implicit() ? "0" : fmt::format("{}", model.outputs()), parameter_count(model),
+                       formula});
+        }
+        if (options.json) continue;
+        fmt::print("{}{}\n{}", first ? "" : "\n", family, table.text());
+        first = false;
+    }
+    if (options.json) fmt::print("{}\n", json.dump(2));
+    return done;
+}
+
+} // namespace ansatz::tools

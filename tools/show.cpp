@@ -1,0 +1,52 @@
+// ansatz show: all that is known about one model.
+
+#include "commands.hpp"
+#include "report.hpp"
+
+#include <fmt/format.h>
+
+namespace ansatz::tools {
+
+int show(const ShowOptions& options) {
+    const host::Model model = host::Model::find(options.model);
+    if (options.json) {
+        fmt::print("{}\n", describe_json(model).dump(2));
+        return done;
+    }
+    const host::Description* text = model.description();
+    fmt::print("{}  ({})\n", model.name(), model.family());
+    if (model.reserved()) {
+        fmt::print("\n  {}\n", text->notes);
+        return done;
+    }
+    if (text) fmt::print("\n  {}\n", text->formula);
+
+    const int n = model.default_size();
+    TextTable table({{"", Align::left}, {"symbol", Align::left}, {"meaning", Align::left}});
+    const auto reference = [](host::Role role) {
+        return role == host::Role::reference ? " (reference position, held fixed)" : "";
+    };
+    const auto slots = model.slots(n);
+    for (const host::Slot& slot : slots) {
+        table.add(
+            {slot.number, slot.symbol == slot.number ? "" : slot.symbol, slot.meaning + reference(slot.role)});
+    }
+    fmt::print("\nParameters ({})\n{}", parameter_count(model), table.text());
+    if (model.replicated()) {
+        fmt::print("  With several {0}s the symbols are numbered: {1}{2}, {1}{3}, ...\n", text->block_name,
+                   text->block.front().symbol, text->first_block, text->first_block + 1);
+    }
+
+    fmt::print("\nx columns    {}\n", model.inputs());
+    if (model.implicit()) {
+        fmt::print("y columns    none: an implicit model, its value is fitted to zero\n");
+    } else {
+        fmt::print("y columns    {}\n", model.outputs());
+    }
+    fmt::print("Derivatives  {}\n", model.analytic() ? "analytic" : "numerical, by the host");
+    if (model.components(n) > 0) fmt::print("Components   one per {}, without the offset\n", text->block_name);
+    if (text && !text->notes.empty()) fmt::print("\n{}\n", text->notes);
+    return done;
+}
+
+} // namespace ansatz::tools
