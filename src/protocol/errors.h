@@ -11,6 +11,7 @@
 // Values are the C library's own, bit for bit.
 #pragma once
 
+#include "protocol/c_library.h"
 #include "protocol/point.h"
 
 #include <cerrno>
@@ -88,30 +89,30 @@ template <double (*f)(double)> inline double checked(double t) {
 
 // The library functions that models call, by their plain names.
 inline double exp(double t) {
-    return detail::checked<std::exp>(t);
+    return detail::checked<c_library::exp>(t);
 }
 inline double log(double t) {
-    return detail::checked<std::log>(t);
+    return detail::checked<c_library::log>(t);
 }
 inline double sqrt(double t) {
-    return detail::checked<std::sqrt>(t);
+    return detail::checked<c_library::sqrt>(t);
 }
 inline double sin(double t) {
-    return detail::checked<std::sin>(t);
+    return detail::checked<c_library::sin>(t);
 }
 inline double cos(double t) {
-    return detail::checked<std::cos>(t);
+    return detail::checked<c_library::cos>(t);
 }
 inline double tanh(double t) {
-    return detail::checked<std::tanh>(t);
+    return detail::checked<c_library::tanh>(t);
 }
 inline double acos(double t) {
-    return detail::checked<std::acos>(t);
+    return detail::checked<c_library::acos>(t);
 }
 
 inline double pow(double a, double b) {
     const int before = errno;
-    const double r = std::pow(a, b);
+    const double r = c_library::pow(a, b);
     return detail::ordinary(r) ? r
                                : detail::settle(r, before, std::isfinite(a) && std::isfinite(b),
                                                 std::isnan(a) || std::isnan(b));
