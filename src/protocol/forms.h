@@ -10,6 +10,7 @@
 
 #include "protocol/errors.h"
 #include "protocol/guards.h"
+#include "protocol/host_arithmetic.h"
 #include "protocol/point.h"
 
 namespace ansatz {
@@ -98,6 +99,7 @@ template <Path value> struct FormW {
 #define ANSATZ_MODEL(name, ...)                                                                                \
     ANSATZ_ROUTINE(name);                                                                                      \
     ANSATZ_ROUTINE(name) {                                                                                     \
+        const ansatz::OwnArithmetic own_arithmetic;                                                            \
         return __VA_ARGS__::serve(flags & 0xff,                                                                \
                                   ansatz::Point{static_cast<std::int16_t>(nParams), params, x, y, dyda});      \
     }
