@@ -5,8 +5,7 @@
 //
 //   Both fail for x <= 0, also with a scale of 0, and on a range error of the power. A scale of 0 gives the
 //   value 0 (P1 in Allometric2) without a power, and the call ends there: no derivatives, even when both were
-//   requested; ask for the derivatives alone. Should the logarithm of the derivative path fail, its slot alone
-//   is marked and y[1] keeps the scaled power, in Allometric2 without the offset.
+//   requested; ask for the derivatives alone.
 
 #include "protocol/forms.h"
 
@@ -33,7 +32,7 @@ Status derivatives(const Point& at) {
     const double scaled = P[1] * w;
     dyda[1] = w;
     y[1] = scaled;
-    dyda[2] = scaled * log(x[1]);
+    dyda[2] = scaled * log(x[1]); // an error here would leave y[1] standing
     return math_error() ? fail_slots(at, 2) : success;
 }
 
@@ -61,7 +60,7 @@ Status derivatives(const Point& at) {
     const double scaled = P[2] * w;
     dyda[2] = w;
     y[1] = scaled;
-    dyda[3] = scaled * log(x[1]);
+    dyda[3] = scaled * log(x[1]); // an error here would leave y[1] without the offset
     if (math_error()) return fail_slots(at, 3);
     y[1] = P[1] + scaled;
     return success;
