@@ -8,9 +8,8 @@
 //   Asymptotic6   y = P1 - e^(-(P2 + P3 x))           asymptote, minus the logarithm of the span, rate
 //   Asymptotic7   y = P1 + P2 (1 - e^(-P3 x))         level at x = 0, span, rate
 //
-//   A rate is per unit of x, a base the factor left after one unit of x (base = e^-rate). With its base below 1
-//   Asymptotic4 runs from P3 at x = 0 towards P1: its first parameter is the level approached, whatever its
-//   name.
+//   A rate is per unit of x, a base the factor left after one unit of x (base = e^-rate). Mind the
+//   names in Asymptotic4: with a base below 1 it runs from P3 at x = 0 towards P1.
 //
 //   Fails for a rate <= 0, for a base outside the open interval (0, 1), and on a range error, which lies far to
 //   the left (x < -709/rate or so). Such a failed parameter test leaves the error indicator as it was; an error

@@ -6,9 +6,8 @@
 //   ParetoEVP   y = 1 - (1 - P2)^(ln x / ln P1)         P1 reference x, P2 response there
 //
 //   The expected-value forms read params[2] and write dyda[2]. All fail on a range or domain error, and:
-//     Power       x <= 0 on the derivative path alone, which marks dyda[1] and keeps y[1]; the value takes any
-//     x
-//                 whose power exists
+//     Power       x <= 0 on the derivative path alone: dyda[1] is marked, y[1] stands; the value needs no
+//                 more of x than that its power exists
 //     PowerEVP    x <= 0, P1 <= 0, P2 <= 0; P1 == 1 with P2 != 1
 //     Pareto      x <= 0
 //     ParetoEVP   x <= 0, P1 <= 0, P2 >= 1

@@ -2,8 +2,7 @@
 //
 //   y = P1 + P2 x + P3 P4^x
 //
-//   P1 intercept, P2 slope (unit of y per unit of x), P3 amplitude, P4 base: the factor left after one unit of
-//   x.
+//   P1 intercept, P2 slope (unit of y per unit of x), P3 amplitude, P4 base (factor per unit of x).
 //
 //   Fails for P4 <= 0 and P4 >= 1 (both bounds excluded) and on a range error of the power (far to the left).
 //   With P3 == 0 the value is the line alone and the call ends there: no derivatives, even when both were
