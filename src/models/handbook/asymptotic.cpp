@@ -22,7 +22,7 @@
 //   Asymptotic4 marks dyda[2] alone when its power fails on the derivative path, and leaves the other outputs
 //   as computed.
 
-#include "models/handbook/one_path.h"
+#include "models/handbook/law.h"
 
 namespace ansatz {
 namespace {
@@ -231,10 +231,10 @@ Status derivatives(const Point& at) {
 } // namespace
 } // namespace ansatz
 
-ANSATZ_MODEL(Asymptotic1, ansatz::OnePath<ansatz::asymptotic1::value, ansatz::asymptotic1::derivatives>)
-ANSATZ_MODEL(Asymptotic2, ansatz::OnePath<ansatz::asymptotic2::value, ansatz::asymptotic2::derivatives>)
-ANSATZ_MODEL(Asymptotic3, ansatz::OnePath<ansatz::asymptotic3::value, ansatz::asymptotic3::derivatives>)
-ANSATZ_MODEL(Asymptotic4, ansatz::OnePath<ansatz::asymptotic4::value, ansatz::asymptotic4::derivatives>)
-ANSATZ_MODEL(Asymptotic5, ansatz::OnePath<ansatz::asymptotic5::value, ansatz::asymptotic5::derivatives>)
-ANSATZ_MODEL(Asymptotic6, ansatz::OnePath<ansatz::asymptotic6::value, ansatz::asymptotic6::derivatives>)
-ANSATZ_MODEL(Asymptotic7, ansatz::OnePath<ansatz::asymptotic7::value, ansatz::asymptotic7::derivatives>)
+ANSATZ_MODEL(Asymptotic1, ansatz::HandbookLaw<ansatz::asymptotic1::value, ansatz::asymptotic1::derivatives>)
+ANSATZ_MODEL(Asymptotic2, ansatz::HandbookLaw<ansatz::asymptotic2::value, ansatz::asymptotic2::derivatives>)
+ANSATZ_MODEL(Asymptotic3, ansatz::HandbookLaw<ansatz::asymptotic3::value, ansatz::asymptotic3::derivatives>)
+ANSATZ_MODEL(Asymptotic4, ansatz::HandbookLaw<ansatz::asymptotic4::value, ansatz::asymptotic4::derivatives>)
+ANSATZ_MODEL(Asymptotic5, ansatz::HandbookLaw<ansatz::asymptotic5::value, ansatz::asymptotic5::derivatives>)
+ANSATZ_MODEL(Asymptotic6, ansatz::HandbookLaw<ansatz::asymptotic6::value, ansatz::asymptotic6::derivatives>)
+ANSATZ_MODEL(Asymptotic7, ansatz::HandbookLaw<ansatz::asymptotic7::value, ansatz::asymptotic7::derivatives>)

@@ -23,7 +23,7 @@
 //   Exponent3EVP with P1 == 0 has the value 0; its derivative path writes that value too, marks both slots
 //   and returns 1.
 
-#include "models/handbook/one_path.h"
+#include "models/handbook/law.h"
 
 namespace ansatz {
 namespace {
@@ -220,11 +220,16 @@ Status derivatives(const Point& at) {
 } // namespace
 } // namespace ansatz
 
-ANSATZ_MODEL(Exponent2, ansatz::OnePath<ansatz::exponent2::value, ansatz::exponent2::derivatives>)
-ANSATZ_MODEL(Exponent2Mod1, ansatz::OnePath<ansatz::exponent2_mod1::value, ansatz::exponent2_mod1::derivatives>)
-ANSATZ_MODEL(Exponent2EVP, ansatz::OnePath<ansatz::exponent2_evp::value, ansatz::exponent2_evp::derivatives>)
-ANSATZ_MODEL(Exponent3, ansatz::OnePath<ansatz::exponent3::value, ansatz::exponent3::derivatives>)
-ANSATZ_MODEL(Exponent3Mod1, ansatz::OnePath<ansatz::exponent3_mod1::value, ansatz::exponent3_mod1::derivatives>)
-ANSATZ_MODEL(Exponent3EVP, ansatz::OnePath<ansatz::exponent3_evp::value, ansatz::exponent3_evp::derivatives>)
-ANSATZ_MODEL(Exponent1, ansatz::OnePath<ansatz::exponent1::value, ansatz::exponent1::derivatives>)
-ANSATZ_MODEL(Exponent1Mod, ansatz::OnePath<ansatz::exponent1_mod::value, ansatz::exponent1_mod::derivatives>)
+ANSATZ_MODEL(Exponent2, ansatz::HandbookLaw<ansatz::exponent2::value, ansatz::exponent2::derivatives>)
+ANSATZ_MODEL(Exponent2Mod1,
+             ansatz::HandbookLaw<ansatz::exponent2_mod1::value, ansatz::exponent2_mod1::derivatives>)
+ANSATZ_MODEL(Exponent2EVP,
+             ansatz::HandbookLaw<ansatz::exponent2_evp::value, ansatz::exponent2_evp::derivatives>)
+ANSATZ_MODEL(Exponent3, ansatz::HandbookLaw<ansatz::exponent3::value, ansatz::exponent3::derivatives>)
+ANSATZ_MODEL(Exponent3Mod1,
+             ansatz::HandbookLaw<ansatz::exponent3_mod1::value, ansatz::exponent3_mod1::derivatives>)
+ANSATZ_MODEL(Exponent3EVP,
+             ansatz::HandbookLaw<ansatz::exponent3_evp::value, ansatz::exponent3_evp::derivatives>)
+ANSATZ_MODEL(Exponent1, ansatz::HandbookLaw<ansatz::exponent1::value, ansatz::exponent1::derivatives>)
+ANSATZ_MODEL(Exponent1Mod,
+             ansatz::HandbookLaw<ansatz::exponent1_mod::value, ansatz::exponent1_mod::derivatives>)

@@ -11,7 +11,7 @@
 //   instead of returning P2. Its derivative by P2 has the sign of the sum, +e^P2/v, not of the difference that
 //   is computed: a host that wants the true one negates dyda[2] or takes it numerically.
 
-#include "models/handbook/one_path.h"
+#include "models/handbook/law.h"
 
 namespace ansatz {
 namespace {
@@ -76,4 +76,5 @@ Status derivatives(const Point& at) {
 } // namespace ansatz
 
 ANSATZ_MODEL(Logarithm, ansatz::FormE<ansatz::logarithm::value, ansatz::logarithm::derivatives>)
-ANSATZ_MODEL(LogarithmEVP, ansatz::OnePath<ansatz::logarithm_evp::value, ansatz::logarithm_evp::derivatives>)
+ANSATZ_MODEL(LogarithmEVP,
+             ansatz::HandbookLaw<ansatz::logarithm_evp::value, ansatz::logarithm_evp::derivatives>)

@@ -15,7 +15,7 @@
 //   gives 1 (for P2 == 1), ParetoEVP 0. The status is 0 there although derivative slots are marked: both in
 //   PowerEVP, dyda[2] in ParetoEVP, whose dyda[1] is 0.
 
-#include "models/handbook/one_path.h"
+#include "models/handbook/law.h"
 
 namespace ansatz {
 namespace {
@@ -137,7 +137,7 @@ Status derivatives(const Point& at) {
 } // namespace
 } // namespace ansatz
 
-ANSATZ_MODEL(Power, ansatz::OnePath<ansatz::power::value, ansatz::power::derivatives>)
-ANSATZ_MODEL(PowerEVP, ansatz::OnePath<ansatz::power_evp::value, ansatz::power_evp::derivatives>)
-ANSATZ_MODEL(Pareto, ansatz::OnePath<ansatz::pareto::value, ansatz::pareto::derivatives>)
-ANSATZ_MODEL(ParetoEVP, ansatz::OnePath<ansatz::pareto_evp::value, ansatz::pareto_evp::derivatives>)
+ANSATZ_MODEL(Power, ansatz::HandbookLaw<ansatz::power::value, ansatz::power::derivatives>)
+ANSATZ_MODEL(PowerEVP, ansatz::HandbookLaw<ansatz::power_evp::value, ansatz::power_evp::derivatives>)
+ANSATZ_MODEL(Pareto, ansatz::HandbookLaw<ansatz::pareto::value, ansatz::pareto::derivatives>)
+ANSATZ_MODEL(ParetoEVP, ansatz::HandbookLaw<ansatz::pareto_evp::value, ansatz::pareto_evp::derivatives>)

@@ -10,7 +10,7 @@
 //   through unseen. Reciprocal0 returns -P1/y^2 as its derivative, which is not the derivative of y (that would
 //   be -x y^2): a host that wants the true one takes it numerically.
 
-#include "models/handbook/one_path.h"
+#include "models/handbook/law.h"
 
 namespace ansatz {
 namespace {
@@ -110,9 +110,9 @@ Status derivatives(const Point& at) {
 } // namespace
 } // namespace ansatz
 
-ANSATZ_MODEL(Reciprocal0, ansatz::OnePath<ansatz::reciprocal0::value, ansatz::reciprocal0::derivatives>)
+ANSATZ_MODEL(Reciprocal0, ansatz::HandbookLaw<ansatz::reciprocal0::value, ansatz::reciprocal0::derivatives>)
 ANSATZ_MODEL(Reciprocal0EVP,
-             ansatz::OnePath<ansatz::reciprocal0_evp::value, ansatz::reciprocal0_evp::derivatives>)
-ANSATZ_MODEL(Reciprocal1, ansatz::OnePath<ansatz::reciprocal1::value, ansatz::reciprocal1::derivatives>)
+             ansatz::HandbookLaw<ansatz::reciprocal0_evp::value, ansatz::reciprocal0_evp::derivatives>)
+ANSATZ_MODEL(Reciprocal1, ansatz::HandbookLaw<ansatz::reciprocal1::value, ansatz::reciprocal1::derivatives>)
 ANSATZ_MODEL(Reciprocal1EVP,
-             ansatz::OnePath<ansatz::reciprocal1_evp::value, ansatz::reciprocal1_evp::derivatives>)
+             ansatz::HandbookLaw<ansatz::reciprocal1_evp::value, ansatz::reciprocal1_evp::derivatives>)

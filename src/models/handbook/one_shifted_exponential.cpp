@@ -5,7 +5,7 @@
 //
 //   Both fail on a range error alone.
 
-#include "models/handbook/one_path.h"
+#include "models/handbook/law.h"
 
 namespace ansatz {
 namespace {
@@ -51,5 +51,5 @@ Status derivatives(const Point& at) {
 } // namespace
 } // namespace ansatz
 
-ANSATZ_MODEL(Exponent, ansatz::OnePath<ansatz::exponent::value, ansatz::exponent::derivatives>)
-ANSATZ_MODEL(ExponentEVP, ansatz::OnePath<ansatz::exponent_evp::value, ansatz::exponent_evp::derivatives>)
+ANSATZ_MODEL(Exponent, ansatz::HandbookLaw<ansatz::exponent::value, ansatz::exponent::derivatives>)
+ANSATZ_MODEL(ExponentEVP, ansatz::HandbookLaw<ansatz::exponent_evp::value, ansatz::exponent_evp::derivatives>)
