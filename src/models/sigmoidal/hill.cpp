@@ -3,8 +3,8 @@
 //   Hill    y = P1 / (1 + (P2/x)^P3)                P1 ceiling, P2 half-point, P3 steepness
 //   Hill1   y = P1 + (P2 - P1) / (1 + (P3/x)^P4)    P1 start level, P2 end level, P3 half-point, P4 steepness
 //
-//   The half-point is in the unit of x and lies half-way between the two levels; the steepness is a pure
-//   number. A negative steepness turns the curve round: it falls from the ceiling to 0.
+//   The half-point is the x at which the curve is half-way between its levels; the steepness is a pure number.
+//   A negative steepness turns the curve round: Hill then falls from the ceiling to 0.
 //
 //   Fails for x < 0 and for a negative half-point. For Hill a half-point of 0 still has a value, but no
 //   derivatives: a call for both ends as a failure. The logarithm in the slope by the steepness may fail where

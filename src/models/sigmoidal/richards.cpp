@@ -13,7 +13,8 @@
 //     SRichards1: for P3 == 1, P1 <= 0, P4 <= 0. SRichards2: for these and P3 <= 0.
 //     Both: where the base of the outer power is not positive. For P3 < 1 that is the time before growth sets
 //     in.
-//   An overflow marks y only in the derivatives of SRichards1 and, but for the outer power, of SRichards2.
+//   In the derivatives every failure marks all slopes, but for two that mark y only: an overflow in SRichards1,
+//   and in SRichards2 an overflow of the exponential or a base that is not positive.
 
 #include "protocol/forms.h"
 

@@ -10,8 +10,8 @@
 //   SWeibull2   y = P1 - (P1 - P2) e^(-(P4 x)^P3)
 //     P1 ceiling, P2 value at x = 0, P3 shape, P4 rate
 //     Fails for P4 <= 0 and for x <= 0: the start itself is excluded. Where the power overflows y is the
-//     ceiling. One failure of the derivatives, an error pending on entry, does not mark dyda[4] but scales what
-//     the caller had in it by MISSING_VALUE.
+//     ceiling. One failure of the derivatives, a domain error pending on entry, does not mark dyda[4] but
+//     scales what the caller had in it by MISSING_VALUE.
 //
 //   The logarithm in the slope by the shape is not tested: where (x - P2) P4 is too small for a double, that
 //   slope is no number and the error indicator stays set.
