@@ -6,7 +6,7 @@
 //   Response1      y = P1 + (P2 - P1) / (1 + 10^((P3 - x) P4))    rises from P1 to P2
 //     P1 bottom, P2 top, P3 logarithm of the half-way dose, P4 slope
 //
-//   Competition1 is also exported as Boltzman3 and Response1 as Boltzman2. Boltzman1 is an export without a
+//   Competition1 is exported as Boltzman3 and Response1 as Boltzman2. Boltzman1 is an export without a
 //   name in the catalogue.
 //
 //   The value fails for nParams <= 0. Response1 further wants P4 != 0 and P2 > P1 for the value, but for the

@@ -4,8 +4,8 @@
 //     P1 ceiling, P2 location term, P3 rate (1 / unit of x), P4 shape
 //   SRichards1   y = (P1^(1-P3) - s e^(-(x - P2) P4))^(1/(1-P3)),  s = 1 where P3 < 1, else -1
 //   SRichards2   y = P1 (1 - (1 - P3) e^(-(x - P2) P4))^(1/(1-P3))
-//     P1 ceiling, P2 centre, P3 shape, P4 rate. P3 = 2 is the logistic curve; P3 near 1 approaches the
-//     Gompertz curve, P3 == 1 itself fails.
+//     P1 ceiling, P2 centre, P3 shape, P4 rate. P3 = 2 is the logistic curve. SRichards2 approaches the
+//     Gompertz curve for P3 near 1; P3 == 1 itself fails.
 //
 //   Fails on an overflow, and
 //     Richards, derivatives: for P4 <= 0. The value accepts a negative shape and is P1 for a shape of 0, where

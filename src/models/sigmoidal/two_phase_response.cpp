@@ -12,7 +12,7 @@
 //
 //   They differ in what they test and in what an overflowing power (some 300 decades out) means:
 //
-//   Competition2 (also exported as Boltzman4) fails for nParams <= 0, value only. If either power overflows,
+//   Competition2 (exported as Boltzman4) fails for nParams <= 0, value only. If either power overflows,
 //   y is P2, even while the other phase still contributes.
 //
 //   Response2 fails, value only, for nParams <= 0 and for a plateau below the base. It looks for errors before
