@@ -2,7 +2,7 @@
 //
 //   NAME FLAGS [n COUNT] [errno N] P p1 p2 .. x x1 ..  ->  STATUS [errno N] [slot=value ..]
 //
-//   FLAGS   value, deriv, both, query, probe, none
+//   FLAGS   value, deriv, both, query, probe, none, or the request bits as a number
 //   n       nParams, by default the number of parameters given
 //   errno   the error indicator on entry, and after the call (0 when not named)
 //   slot    y1, d3, x2 ...; value a number (met to 4 ulp; 0, inf and nan exactly), or missing. Slots not named
@@ -49,7 +49,7 @@ Case parse(const std::string& text) {
     std::istringstream line(text);
     std::string word;
     line >> c.name >> word;
-    c.request.flags = flags.at(word);
+    c.request.flags = flags.contains(word) ? flags.at(word) : static_cast<unsigned>(std::stoul(word));
     int count = -1;
     std::vector<double>* list = nullptr;
     while (line >> word && word != "->") {
