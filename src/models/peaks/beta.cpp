@@ -22,23 +22,27 @@ struct Peak {
     static double value(double x, const double* P) {
         const double c = P[0], A = P[1], w = P[2], p = P[3], q = P[4];
         const double z = (x - c) / w, r = p + q - 2;
-        const double left = 1 + r / (p - 1) * z, right = 1 - r / (q - 1) * z;
-        if (left <= 0 || right <= 0) return 0;
-        return A * safe_pow(left, p - 1) * safe_pow(right, q - 1);
+        const double u = r / (p - 1) * z, v = r / (q - 1) * z;
+        if (1 + u <= 0 || 1 - v <= 0) return 0;
+        return A * safe_exp((p - 1) * log1p(u) + (q - 1) * log1p(-v));
     }
 
     static double slopes(double x, const double* P, double* d) {
         const double c = P[0], A = P[1], w = P[2], p = P[3], q = P[4];
         const double z = (x - c) / w, r = p + q - 2;
-        const double left = 1 + r / (p - 1) * z, right = 1 - r / (q - 1) * z;
+        const double u = r / (p - 1) * z, v = r / (q - 1) * z;
+        const double left = 1 + u, right = 1 - v;
         if (left <= 0 || right <= 0) return blocks::nothing<size>(d);
-        const double unit = safe_pow(left, p - 1) * safe_pow(right, q - 1);
+        const double ln_left = log1p(u), ln_right = log1p(-v);
+        const double unit = safe_exp((p - 1) * ln_left + (q - 1) * ln_right);
         const double peak = A * unit;
-        d[0] = peak * z * r / ((p - 1) * left) * r / ((q - 1) * right) * r / w;
+        const double by_centre = peak * z * r / ((p - 1) * left) * r / ((q - 1) * right) * r / w;
+        d[0] = by_centre;
         d[1] = unit;
-        d[2] = d[0] * z;
-        d[3] = peak * (log(left) - z * ((q - 1) / ((p - 1) * left) + 1 / right));
-        d[4] = peak * (log(right) + z * (1 / left + (p - 1) / ((q - 1) * right)));
+        d[2] = by_centre * z;
+        // By p: ln(left) - z (q-1)/((p-1) left) - z/right, less its terms linear in z, which cancel. So by q.
+        d[3] = peak * ((ln_left - u) + z * (u * (q - 1) / ((p - 1) * left) - v / right));
+        d[4] = peak * ((ln_right + v) + z * (v * (p - 1) / ((q - 1) * right) - u / left));
         return peak;
     }
 };

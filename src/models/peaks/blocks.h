@@ -77,16 +77,10 @@ template <int size> double nothing(double* d) {
     return 0;
 }
 
-/// e^t and a^b whose overflow is no error: the term is infinite, and what it divides reaches its limit, 0.
+/// e^t whose overflow is no error: the term is infinite, and what it damps reaches its limit, 0.
 inline double saturating_exp(double t) {
     const int before = errno;
     const double r = safe_exp(t);
-    if (std::isinf(r)) errno = before;
-    return r;
-}
-inline double saturating_pow(double a, double b) {
-    const int before = errno;
-    const double r = safe_pow(a, b);
     if (std::isinf(r)) errno = before;
     return r;
 }

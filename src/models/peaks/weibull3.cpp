@@ -6,8 +6,8 @@
 //   P1 offset; then per peak: centre c, amplitude A (the height, reached at c), width w1, shape k > 1 (the
 //   parameter w2). 0 for S <= 0, left of the peak's beginning at c - w1 s0. Blocks: see blocks.h.
 //
-//   Values only. Fails per peak for w1 <= 0 and k <= 1. Taken by the quotient S/s0, which is 1 at the
-//   centre; where its power overflows the peak has reached its limit 0.
+//   Values only. Fails per peak for w1 <= 0 and k <= 1. The powers are taken through ln(S/s0), which is 0 at
+//   the centre; where S^k overflows the peak has reached its limit 0.
 
 #include "models/peaks/blocks.h"
 
@@ -25,10 +25,8 @@ struct Peak {
         const double s0 = safe_pow(s0_to_k, 1 / k);
         const double S = (x - c) / w1 + s0;
         if (S <= 0) return 0;
-        const double ratio = S / s0;
-        const double power = blocks::saturating_pow(ratio, k - 1);
-        const double e = safe_exp(-s0_to_k * (ratio * power - 1));
-        return e == 0 ? 0 : A * power * e;
+        const double L = log(S / s0);
+        return A * safe_exp((k - 1) * L - s0_to_k * (blocks::saturating_exp(k * L) - 1));
     }
 };
 
