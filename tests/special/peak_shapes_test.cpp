@@ -27,7 +27,11 @@ std::vector<Shape> shapes() {
     const double sigma = std::sqrt(2 * std::log(2.0)); // half width of a Gaussian of standard deviation 1
     const double root = std::sqrt(2 * pi), e = std::exp(1.0);
     const double gauss = 2 * std::sqrt(std::log(2.0) / pi), lorentz = 2 / pi; // heights for area and width 1
-    const double log_half = std::exp(0.4 * sigma);
+    const double voigt = std::exp(std::log(2.0) / 4) * std::erfc(std::sqrt(std::log(2.0)) / 2); // approximated
+    const double pearson7 = std::sqrt(std::pow(2, 0.4) - 1) * std::tgamma(2.5) / std::sqrt(pi);
+    const double pearson4_half = 0.5 * std::sqrt(std::cbrt(2.0) - 1);
+    const double beta = std::pow(9.0 / 4, 4) * std::pow(9.0 / 5, 5) / 1260; // 1/1260 is B(5, 6)
+    const double mode = 2 * std::exp(-0.16), log_half = std::exp(0.4 * sigma);
     return {
         {"Gauss", {0, 1, 2, 3}, 3, 1, 3 / root, sigma, sigma},
         {"Lorentz", {0, 1, 2, 3}, 3, 1, 3 * lorentz / 2, 1, 1},
@@ -37,41 +41,14 @@ std::vector<Shape> shapes() {
         {"Extreme", {0, 1, 0.5, 3}, 1.5 * e, 1, 3},
         {"PsdVoigt1", {0, 1, 3, 0.5, 0.25}, 3, 1, 6 * (0.75 * gauss + 0.25 * lorentz), 0.25, 0.25},
         {"PsdVoigt2", {0, 1, 3, 0.5, 2, 0.25}, 3, 1, 3 * (0.75 / 0.5 * gauss + 0.25 / 2 * lorentz)},
-        // The Voigt function is an approximation.
-        {"Voigt5",
-         {0, 1, 3, 0.5, 0.25},
-         3,
-         1,
-         6 * gauss * std::exp(std::log(2.0) / 4) * std::erfc(std::sqrt(std::log(2.0)) / 2),
-         unknown,
-         unknown,
-         2e-6},
+        {"Voigt5", {0, 1, 3, 0.5, 0.25}, 3, 1, 6 * gauss * voigt, unknown, unknown, 2e-6},
         {"PearsonVII", {0, 1, 3, 0.5, 1}, 3, 1, 6 * lorentz, 0.25, 0.25},
-        {"PearsonVII",
-         {0, 1, 3, 0.5, 2.5},
-         3,
-         1,
-         12 * std::sqrt(std::pow(2, 0.4) - 1) * std::tgamma(2.5) / std::sqrt(pi),
-         0.25,
-         0.25},
-        {"PearsonIV",
-         {0, 1, 3, 0.5, 0, 3},
-         3,
-         1,
-         6 * 8 / (3 * pi),
-         0.5 * std::sqrt(std::cbrt(2) - 1),
-         0.5 * std::sqrt(std::cbrt(2) - 1)},
+        {"PearsonVII", {0, 1, 3, 0.5, 2.5}, 3, 1, 12 * pearson7, 0.25, 0.25},
+        {"PearsonIV", {0, 1, 3, 0.5, 0, 3}, 3, 1, 16 / pi, pearson4_half, pearson4_half},
         {"PearsonIV", {0, 1, 3, 0.5, 4, 2}, 3, 0.5},
         {"Giddings", {0, 2, 0.8, 3}, 3 * (1 - std::exp(-2.5)), 0}, // split at 0, where it jumps
         {"Giddings", {0, 2, 0.02, 3}, 3, 2},
-        {"Beta",
-         {0, 1, 3, 2, 5, 6},
-         6 * std::pow(9.0 / 4, 4) * std::pow(9.0 / 5, 5) / 1260,
-         1,
-         3,
-         unknown,
-         unknown,
-         1e-7},
+        {"Beta", {0, 1, 3, 2, 5, 6}, 6 * beta, 1, 3, unknown, unknown, 1e-7},
         {"asymptgauss", {0, 1, 3, 0.5, 0}, 1.5 / gauss, 1, 3, 0.25, 0.25},
         {"asymptgauss", {0, 1, 3, 0.5, 2}, unknown, 1, 3},
         {"BiGaussian", {0, 1, 3, 0.5, 2}, 1.5 * 2.5 * root, 1, 3, 0.5 * sigma, 2 * sigma},
@@ -82,10 +59,10 @@ std::vector<Shape> shapes() {
         {"LogNormal",
          {0, 2, 0.4, 3},
          3,
-         2 * std::exp(-0.16),
-         3 / (root * 0.8) * std::exp(0.08),
-         2 * std::exp(-0.16) * (1 - 1 / log_half),
-         2 * std::exp(-0.16) * (log_half - 1)},
+         mode,
+         3 / (root * 0.4 * mode) * std::exp(-0.08),
+         mode * (1 - 1 / log_half),
+         mode * (log_half - 1)},
         {"Asym2Sig", {0, 1, 3, 2, 0.5, 0.5}, 6 / (1 - std::exp(-4.0)), 1, 3 / std::pow(1 + std::exp(-2.0), 2)},
         {"Weibull3", {0, 1, 3, 0.5, 2}, unknown, 1, 3},
         {"Weibull3",

@@ -65,7 +65,7 @@ template <class Peak> Status derivatives(const Point& at) {
     return success;
 }
 
-template <class Peak, Answers answers = {}> using FormD =
+template <class Peak, Answers answers = Answers{}> using FormD =
     ansatz::FormD<value<Peak>, derivatives<Peak>, answers>;
 
 /// Values only; these all answer the probe.

@@ -24,7 +24,9 @@ struct Peak {
         const double ratio = x / c;
         if (ratio <= 0) return 0; // also where it is too small for a double
         const double L = log(ratio) / w;
-        return A / (sqrt_2_pi * w * x) * safe_exp(-0.5 * (L * L));
+        const double e = safe_exp(-0.5 * (L * L));
+        if (e == 0) return 0;
+        return A * (e / (sqrt_2_pi * w * x));
     }
 
     static double slopes(double x, const double* p, double* d) {
