@@ -8,8 +8,9 @@
 //   height of the top. The number of peaks is (nParams - 1) / 3. y[i+1] is peak i alone, without the offset.
 //
 //   Fails for nParams < 1 and on a range or domain error of a peak. A peak of amplitude 0 is skipped: its
-//   component and its derivatives keep what they held. Two bounds shape far tails: where the base and the
-//   exponent of (w/M)^(M/s) both exceed 140, both count as 140; and an exponential beyond e^300 counts as zero.
+//   component and its derivatives keep what they held. Two bounds shape the tails: where the base and the
+//   exponent of (w/M)^(M/s) both exceed 140, both count as 140; and e^((M - w)/s) counts as zero beyond e^300,
+//   which cuts the lower flank of a very narrow peak (M/s of ten thousand and more) 300 scales below its top.
 //   The derivative by c is the law's for s = 1 only: the bracket has 1 + (L - 1)/s where the law has L/s, L =
 //   ln(w/M). The other derivatives are the law's.
 

@@ -8,7 +8,7 @@
 //
 //   Fails where a denominator is 0, with MISSING_VALUE in x[2]; y[1] and the components keep what was summed.
 //   The query says that there are no derivatives, but FF_DERIV computes them all the same. Those by j and k
-//   divide by x1: at x1 == 0 they are infinite or not numbers, with status 0. Powers that overflow leave the
+//   divide by x1: at x1 == 0 they are not numbers, with status 0. Powers that overflow leave the
 //   error indicator set.
 
 #include "protocol/forms.h"
