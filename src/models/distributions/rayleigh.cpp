@@ -4,9 +4,9 @@
 //
 //   P1 scale (same unit as x), the standard deviation of each component.
 //
-//   Fails for x < 0 and for P1 <= 0. One path per call: with FF_VALUE no derivative is computed. A call that
-//   requests nothing returns 1. A derivative request outside the domain leaves the error indicator as it found
-//   it.
+//   Fails for x < 0 and for P1 <= 0. A derivative request outside the domain leaves the error indicator as it
+//   found it. One path per call: with FF_VALUE no derivative is computed. A call that requests nothing
+//   returns 1.
 
 #include "protocol/forms.h"
 

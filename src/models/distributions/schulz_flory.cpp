@@ -11,8 +11,8 @@
 //   component and its derivatives keep what they held. Two bounds shape the tails: where the base and the
 //   exponent of (w/M)^(M/s) both exceed 140, both count as 140; and e^((M - w)/s) counts as zero beyond e^300,
 //   which cuts the lower flank of a very narrow peak (M/s of ten thousand and more) 300 scales below its top.
-//   The derivative by c is the law's for s = 1 only: the bracket has 1 + (L - 1)/s where the law has L/s, L =
-//   ln(w/M). The other derivatives are the law's.
+//   The derivative by c is the law's for s = 1 only: with L = ln(w/M) it has the factor 1 + (L - 1)/s where the
+//   law has L/s. The other derivatives are the law's.
 
 #include "protocol/forms.h"
 #include "special/bounded_pow.h"

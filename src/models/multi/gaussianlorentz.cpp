@@ -1,7 +1,7 @@
 // GaussianLorentz: a Gaussian and a Lorentzian peak with a common offset and centre, two dependent variables.
 //
-//   y[1] = P1 + P3 / (P5 sqrt(pi/2)) e^(-2 ((x - P2)/P5)^2),   y[2] = P1 + (2 P4 / pi) P6 / (4 (x - P2)^2 +
-//   P6^2)
+//   y[1] = P1 + P3 / (P5 sqrt(pi/2)) e^(-2 ((x - P2)/P5)^2)
+//   y[2] = P1 + (2 P4 / pi) P6 / (4 (x - P2)^2 + P6^2)
 //
 //   P1 offset, P2 centre, P3 area of the Gaussian, P4 area of the Lorentzian, P5 width of the Gaussian (twice
 //   its standard deviation), P6 width of the Lorentzian (full width at half maximum).

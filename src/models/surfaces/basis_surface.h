@@ -5,13 +5,10 @@
 //   y[k+1] is block k alone, without the offset. The blocks of one call share the basis functions, so a second
 //   block adds nothing to what a fit can describe.
 //
-// Two frames count and check differently:
-//   Checked    (nParams - 1) / J blocks of J coefficients; fails for nParams <= 0 (the marker in x[2]), and the
-//   value
-//              fails after its first block if the error indicator is set
-//   Unchecked  nParams / J blocks, so that the last parameter read is P(J m + 1); never fails and leaves the
-//   error
-//              indicator as the library set it
+// Two frames count and check differently. Checked has (nParams - 1) / J blocks of J coefficients; it fails for
+// nParams <= 0, with the marker in x[2], and its value fails after the first block if the error indicator is
+// set. Unchecked has nParams / J blocks, so that the last parameter read is P(J m + 1); it never fails and
+// leaves the error indicator as the library set it.
 #pragma once
 
 #include "protocol/forms.h"

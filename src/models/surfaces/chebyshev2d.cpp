@@ -3,9 +3,9 @@
 //   z = P1 + sum over the blocks of  a T1(x1) + b T2(x1) + c T1(x2) + d T2(x2) + e T1(x1) T1(x2),
 //   T1(s) = cos(acos s), T2(s) = cos(2 acos s)
 //
-//   P1 offset; then per block a .. e. One block (6 parameters) is what a fit needs. Meant for x1, x2 in -1 ..
-//   1: outside, the result is not a number, with status 0 and the error indicator left at a domain error; scale
-//   the data first. Frame Unchecked of basis_surface.h.
+//   P1 offset; then per block a .. e. One block (6 parameters) is what a fit needs. Frame Unchecked of
+//   basis_surface.h. Meant for x1 and x2 between -1 and 1, so scale the data first: outside, the result is not
+//   a number, with status 0 and the error indicator left at a domain error.
 
 #include "models/surfaces/basis_surface.h"
 

@@ -1,8 +1,8 @@
 // ExtremeCum: a common offset and any number of terms, each of two extreme-value distribution functions and
 // their product.
 //
-//   z = P1 + sum over the terms of  A1 F1 + A2 F2 + A12 F1 F2,   F1 = e^(-e^((xc - x1)/wx)), F2 = e^(-e^((yc -
-//   x2)/wy))
+//   z = P1 + sum over the terms of  A1 F1 + A2 F2 + A12 F1 F2,
+//   F1 = e^(-e^((xc - x1)/wx)), F2 = e^(-e^((yc - x2)/wy))
 //
 //   P1 offset; then per term amplitude A1 of the step along x1, its location xc and width wx; A2, yc, wy of the
 //   step along x2; amplitude A12 of the joint step. The number of terms is nParams / 7, counted without regard

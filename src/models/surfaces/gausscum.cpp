@@ -1,7 +1,7 @@
 // GaussCum: a common offset and any number of terms, each a product of two normal distribution functions.
 //
-//   z = P1 + sum over the terms of  A/4 (1 + erf u) (1 + erf v),   u = (x1 - xc) / (sqrt(2) wx), v = (x2 - yc)
-//   / (sqrt(2) wy)
+//   z = P1 + sum over the terms of  A/4 (1 + erf u) (1 + erf v),
+//   u = (x1 - xc) / (sqrt(2) wx), v = (x2 - yc) / (sqrt(2) wy)
 //
 //   P1 offset; then per term height A of the plateau, centre xc and width wx (standard deviation) along x1,
 //   centre yc and width wy along x2; a negative width turns the step round. The number of terms is nParams / 5,

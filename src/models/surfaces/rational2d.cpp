@@ -1,7 +1,7 @@
 // Rational2D: a ratio of polynomials of third order, any number of blocks added up.
 //
-//   z = sum over the blocks of  (a + b x1 + c x2 + d x2^2 + e x2^3) / (1 + f x1 + g x1^2 + h x1^3 + j x2 + k
-//   x2^2)
+//   z = sum over the blocks of  N/D,
+//   N = a + b x1 + c x2 + d x2^2 + e x2^3, D = 1 + f x1 + g x1^2 + h x1^3 + j x2 + k x2^2
 //
 //   Ten parameters per block, a .. k in this order; no common offset. The number of blocks is nParams / 10.
 //   y[i+1] is block i alone. Powers of x1 stand below only, the third power of x2 above only.

@@ -1,7 +1,7 @@
 // RationalTaylor: a ratio of polynomials of second order, any number of blocks added up.
 //
-//   z = sum over the blocks of  (a + b x1 + c x2 + d x2^2 + e x1 x2) / (1 + f x1 + g x1^2 + h x2 + j x2^2 + k
-//   x1 x2)
+//   z = sum over the blocks of  N/D,
+//   N = a + b x1 + c x2 + d x2^2 + e x1 x2, D = 1 + f x1 + g x1^2 + h x2 + j x2^2 + k x1 x2
 //
 //   Ten parameters per block, a .. k in this order; no common offset. The number of blocks is nParams / 10.
 //   y[i+1] is block i alone. x1^2 stands below only.
