@@ -3,7 +3,7 @@
 
 #include "protocol/guards.h"
 
-namespace ansatz::special {
+namespace ansatz {
 
 /// a^b into *result, with a and b both replaced by 140 where both exceed it: 140^140, about 2.9e300, is the
 /// largest power of two like numbers that a double holds with room to spare. False if the library reported an
@@ -25,4 +25,4 @@ inline double bounded_pow(double a, double b) {
     return try_bounded_pow(a, b, &result) ? result : MISSING_VALUE;
 }
 
-} // namespace ansatz::special
+} // namespace ansatz

@@ -4,7 +4,7 @@
 #include <cerrno>
 #include <cmath>
 
-namespace ansatz::special {
+namespace ansatz {
 
 /// The C library's erf (within 1 ulp), which never reports an error: some libraries set the indicator where the
 /// result is subnormal, and that is none of a model's business.
@@ -15,4 +15,4 @@ inline double erf(double t) {
     return r;
 }
 
-} // namespace ansatz::special
+} // namespace ansatz

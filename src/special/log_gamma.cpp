@@ -5,7 +5,7 @@
 #include <array>
 #include <limits>
 
-namespace ansatz::special {
+namespace ansatz {
 namespace {
 
 constexpr double pi = 3.141592653589793;
@@ -78,4 +78,4 @@ double log_gamma(double x) {
     return -log(std::fabs(sin(pi * from_integer)) / pi) - positive(1 - x);
 }
 
-} // namespace ansatz::special
+} // namespace ansatz

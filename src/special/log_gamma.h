@@ -1,7 +1,7 @@
 // The logarithm of the gamma function, on every platform the same.
 #pragma once
 
-namespace ansatz::special {
+namespace ansatz {
 
 /// ln |Gamma(x)|. A pole (x = 0, -1, -2, ...) and an overflow are range errors with an infinite result; NaN and
 /// the infinities pass through without an error. Touches no shared state, unlike the C library's function,
@@ -11,4 +11,4 @@ namespace ansatz::special {
 /// and near the zeros x = 1 and x = 2 no worse; below 7 ulp of max(1, |result|) for x < 0.
 double log_gamma(double x);
 
-} // namespace ansatz::special
+} // namespace ansatz

@@ -19,7 +19,7 @@ Status value(const Point& at) {
     const auto [n, P, x, y, dyda] = at;
     y[1] = P[1];
     if (n - 1 <= 0) return failure;
-    const double lg = special::log_gamma(x[1] + 1.0);
+    const double lg = log_gamma(x[1] + 1.0);
     const double q = safe_pow(P[2], x[1]) / safe_exp(lg);
     const double probability = q * safe_exp(-P[2]);
     if (math_error()) return fail(at);

@@ -20,8 +20,6 @@
 namespace ansatz::schulz_flory {
 namespace {
 
-using special::bounded_pow;
-
 constexpr double ln_10 = 2.302585092994046;
 
 /// One peak of unit amplitude at one point.

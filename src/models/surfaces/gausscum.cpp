@@ -26,7 +26,7 @@ Status value(const Point& at) {
         const double* p = P + 1 + 5 * (k - 1);
         const double A = p[1], xc = p[2], wx = p[3], yc = p[4], wy = p[5];
         const double u = (x[1] - xc) / r / wx, v = (x[2] - yc) / r / wy;
-        const double term = A * 0.25 * (special::erf(u) + 1) * (special::erf(v) + 1);
+        const double term = A * 0.25 * (erf(u) + 1) * (erf(v) + 1);
         y[k + 1] = term;
         sum += term;
     }
