@@ -24,8 +24,11 @@ static_assert(EDOM == 33 && ERANGE == 34, "hosts read the indicator by these num
 inline bool range_error() {
     return errno == ERANGE;
 }
+inline bool domain_error() {
+    return errno == EDOM;
+}
 inline bool math_error() {
-    return errno == ERANGE || errno == EDOM;
+    return range_error() || domain_error();
 }
 inline void clear_error() {
     errno = 0;
@@ -53,6 +56,14 @@ inline Status reject_all(const Point& at, int n) {
 inline Status fail_all(const Point& at, int n) {
     clear_error();
     return reject_all(at, n);
+}
+
+/// Ends a derivative path whose value stands: only the slots named are marked, y[1] keeps what was written;
+/// indicator reset, status 1.
+template <class... Slots> Status fail_slots(const Point& at, Slots... slots) {
+    ((at.dyda[slots] = MISSING_VALUE), ...);
+    clear_error();
+    return failure;
 }
 
 /// How the surfaces fail: the marker goes into x[2], outputs keep what they held, indicator reset, status 1.
@@ -93,6 +104,9 @@ inline double exp(double t) {
 }
 inline double log(double t) {
     return detail::checked<c_library::log>(t);
+}
+inline double log1p(double t) {
+    return detail::checked<std::log1p>(t);
 }
 inline double sqrt(double t) {
     return detail::checked<c_library::sqrt>(t);

@@ -6,7 +6,7 @@
 //
 //   Fails at and below the threshold (x <= P2) and where the power overflows.
 
-#include "models/handbook/three_parameter.h"
+#include "models/handbook/law.h"
 
 namespace ansatz::belehradek {
 namespace {
@@ -34,4 +34,4 @@ Status derivatives(const Point& at) {
 } // namespace
 } // namespace ansatz::belehradek
 
-ANSATZ_MODEL(Belehradek, ansatz::ThreeParameterLaw<ansatz::belehradek::value, ansatz::belehradek::derivatives>)
+ANSATZ_MODEL(Belehradek, ansatz::HandbookLaw<ansatz::belehradek::value, ansatz::belehradek::derivatives>)

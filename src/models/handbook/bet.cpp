@@ -10,7 +10,7 @@
 //   saturation the value is negative and means nothing. No library function is called, so a pending error
 //   passes through unseen.
 
-#include "models/handbook/two_parameter.h"
+#include "models/handbook/law.h"
 
 namespace ansatz::bet {
 namespace {
@@ -70,5 +70,5 @@ Status derivatives(const Point& at) {
 } // namespace
 } // namespace ansatz::bet_mod
 
-ANSATZ_MODEL(BET, ansatz::TwoParameter<ansatz::bet::value, ansatz::bet::derivatives>)
-ANSATZ_MODEL(BETMod, ansatz::TwoParameter<ansatz::bet_mod::value, ansatz::bet_mod::derivatives>)
+ANSATZ_MODEL(BET, ansatz::HandbookLaw<ansatz::bet::value, ansatz::bet::derivatives>)
+ANSATZ_MODEL(BETMod, ansatz::HandbookLaw<ansatz::bet_mod::value, ansatz::bet_mod::derivatives>)

@@ -11,7 +11,7 @@
 //   x <= 0; "BlNeldEVP" for P1 == P3 and for a response <= 0. The simple form accepts any x that leaves
 //   its base positive, negative densities included.
 
-#include "models/handbook/three_parameter.h"
+#include "models/handbook/law.h"
 
 namespace ansatz::bl_neld {
 namespace {
@@ -114,6 +114,6 @@ Status derivatives(const Point& at) {
 } // namespace
 } // namespace ansatz::bl_neld_evp
 
-ANSATZ_MODEL(BlNeld, ansatz::ThreeParameterLaw<ansatz::bl_neld::value, ansatz::bl_neld::derivatives>)
-ANSATZ_MODEL(BlNeldSmp, ansatz::ThreeParameterLaw<ansatz::bl_neld_smp::value, ansatz::bl_neld_smp::derivatives>)
-ANSATZ_MODEL(BlNeldEVP, ansatz::ThreeParameterLaw<ansatz::bl_neld_evp::value, ansatz::bl_neld_evp::derivatives>)
+ANSATZ_MODEL(BlNeld, ansatz::HandbookLaw<ansatz::bl_neld::value, ansatz::bl_neld::derivatives>)
+ANSATZ_MODEL(BlNeldSmp, ansatz::HandbookLaw<ansatz::bl_neld_smp::value, ansatz::bl_neld_smp::derivatives>)
+ANSATZ_MODEL(BlNeldEVP, ansatz::HandbookLaw<ansatz::bl_neld_evp::value, ansatz::bl_neld_evp::derivatives>)

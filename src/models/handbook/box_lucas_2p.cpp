@@ -11,7 +11,7 @@
 //   gives growth without a plateau. Where P3^P1 overflows the curve is flat at 0: value and derivatives are 0,
 //   status 0, and the error indicator stays set, so a host that goes on must clear it.
 
-#include "models/handbook/two_parameter.h"
+#include "models/handbook/law.h"
 
 namespace ansatz::box_lucas_1_mod {
 namespace {
@@ -75,6 +75,6 @@ Status derivatives(const Point& at) {
 } // namespace ansatz::box_lucas_1_evp
 
 ANSATZ_MODEL(BoxLucas1Mod,
-             ansatz::TwoParameter<ansatz::box_lucas_1_mod::value, ansatz::box_lucas_1_mod::derivatives>)
+             ansatz::HandbookLaw<ansatz::box_lucas_1_mod::value, ansatz::box_lucas_1_mod::derivatives>)
 ANSATZ_MODEL(BoxLucas1EVP,
-             ansatz::TwoParameter<ansatz::box_lucas_1_evp::value, ansatz::box_lucas_1_evp::derivatives>)
+             ansatz::HandbookLaw<ansatz::box_lucas_1_evp::value, ansatz::box_lucas_1_evp::derivatives>)

@@ -7,7 +7,7 @@
 //   Fails for x <= 0, P2 == 0 and -P2 ln x <= 0: x lies below 1 for a positive P2, above 1 for a negative one,
 //   and x = 1 fails always.
 
-#include "models/handbook/two_parameter.h"
+#include "models/handbook/law.h"
 
 namespace ansatz::bradley {
 namespace {
@@ -37,4 +37,4 @@ Status derivatives(const Point& at) {
 } // namespace
 } // namespace ansatz::bradley
 
-ANSATZ_MODEL(Bradley, ansatz::TwoParameter<ansatz::bradley::value, ansatz::bradley::derivatives>)
+ANSATZ_MODEL(Bradley, ansatz::HandbookLaw<ansatz::bradley::value, ansatz::bradley::derivatives>)

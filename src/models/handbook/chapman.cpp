@@ -9,7 +9,7 @@
 //   derivatives are 0, although for P3 <= 1 the true slope by P2 at P2 = 0 is not: a fit that starts there does
 //   not move.
 
-#include "models/handbook/three_parameter.h"
+#include "models/handbook/law.h"
 
 namespace ansatz::chapman {
 namespace {
@@ -52,4 +52,4 @@ Status derivatives(const Point& at) {
 } // namespace
 } // namespace ansatz::chapman
 
-ANSATZ_MODEL(Chapman, ansatz::ThreeParameterLaw<ansatz::chapman::value, ansatz::chapman::derivatives>)
+ANSATZ_MODEL(Chapman, ansatz::HandbookLaw<ansatz::chapman::value, ansatz::chapman::derivatives>)

@@ -16,7 +16,7 @@
 //   sets dyda[1] and dyda[3] to 0; for dyda[3], whose true value there is y ln(P4/P2) / (P1 - P3), that is a
 //   gap at this one point.
 
-#include "models/handbook/two_parameter.h"
+#include "models/handbook/law.h"
 
 namespace ansatz::exp_2p {
 namespace {
@@ -124,7 +124,7 @@ Status derivatives(const Point& at) {
 } // namespace
 } // namespace ansatz::exp_2p_evp
 
-ANSATZ_MODEL(Exp2P, ansatz::TwoParameter<ansatz::exp_2p::value, ansatz::exp_2p::derivatives>)
-ANSATZ_MODEL(Exp2PMod1, ansatz::TwoParameter<ansatz::exp_2p_mod1::value, ansatz::exp_2p_mod1::derivatives>)
-ANSATZ_MODEL(Exp2PMod2, ansatz::TwoParameter<ansatz::exp_2p_mod2::value, ansatz::exp_2p_mod2::derivatives>)
-ANSATZ_MODEL(Exp2PEVP, ansatz::TwoParameter<ansatz::exp_2p_evp::value, ansatz::exp_2p_evp::derivatives>)
+ANSATZ_MODEL(Exp2P, ansatz::HandbookLaw<ansatz::exp_2p::value, ansatz::exp_2p::derivatives>)
+ANSATZ_MODEL(Exp2PMod1, ansatz::HandbookLaw<ansatz::exp_2p_mod1::value, ansatz::exp_2p_mod1::derivatives>)
+ANSATZ_MODEL(Exp2PMod2, ansatz::HandbookLaw<ansatz::exp_2p_mod2::value, ansatz::exp_2p_mod2::derivatives>)
+ANSATZ_MODEL(Exp2PEVP, ansatz::HandbookLaw<ansatz::exp_2p_evp::value, ansatz::exp_2p_evp::derivatives>)

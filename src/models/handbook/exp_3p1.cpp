@@ -8,7 +8,7 @@
 //
 //   Fails for x + P3 == 0 and where the exponential overflows. An exponent below -300 gives 0.
 
-#include "models/handbook/three_parameter.h"
+#include "models/handbook/law.h"
 
 namespace ansatz::exp_3p1 {
 namespace {
@@ -63,6 +63,5 @@ Status derivatives(const Point& at) {
 } // namespace
 } // namespace ansatz::exp_3p1_md
 
-ANSATZ_MODEL(Ratkowsky4333, ansatz::ThreeParameterLaw<ansatz::exp_3p1::value, ansatz::exp_3p1::derivatives>)
-ANSATZ_MODEL(Ratkowsky4334,
-             ansatz::ThreeParameterLaw<ansatz::exp_3p1_md::value, ansatz::exp_3p1_md::derivatives>)
+ANSATZ_MODEL(Ratkowsky4333, ansatz::HandbookLaw<ansatz::exp_3p1::value, ansatz::exp_3p1::derivatives>)
+ANSATZ_MODEL(Ratkowsky4334, ansatz::HandbookLaw<ansatz::exp_3p1_md::value, ansatz::exp_3p1_md::derivatives>)

@@ -7,7 +7,7 @@
 //
 //   Fails where the exponential overflows only. An exponent below -300 gives 0.
 
-#include "models/handbook/three_parameter.h"
+#include "models/handbook/law.h"
 
 namespace ansatz::exp_3p2 {
 namespace {
@@ -32,4 +32,4 @@ Status derivatives(const Point& at) {
 } // namespace
 } // namespace ansatz::exp_3p2
 
-ANSATZ_MODEL(Ratkowsky4339, ansatz::ThreeParameterLaw<ansatz::exp_3p2::value, ansatz::exp_3p2::derivatives>)
+ANSATZ_MODEL(Ratkowsky4339, ansatz::HandbookLaw<ansatz::exp_3p2::value, ansatz::exp_3p2::derivatives>)

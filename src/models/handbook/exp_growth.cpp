@@ -6,7 +6,7 @@
 //
 //   Fails for P2 == 0 and where the exponential overflows. An exponent below -300 gives 0.
 
-#include "models/handbook/three_parameter.h"
+#include "models/handbook/law.h"
 
 namespace ansatz::exp_growth {
 namespace {
@@ -32,4 +32,4 @@ Status derivatives(const Point& at) {
 } // namespace
 } // namespace ansatz::exp_growth
 
-ANSATZ_MODEL(ExpGrowth, ansatz::ThreeParameterLaw<ansatz::exp_growth::value, ansatz::exp_growth::derivatives>)
+ANSATZ_MODEL(ExpGrowth, ansatz::HandbookLaw<ansatz::exp_growth::value, ansatz::exp_growth::derivatives>)

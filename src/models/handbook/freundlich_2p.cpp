@@ -11,7 +11,7 @@
 //
 //   x = 0 fails although the law has a value there for a positive exponent.
 
-#include "models/handbook/two_parameter.h"
+#include "models/handbook/law.h"
 
 namespace ansatz::freundlich {
 namespace {
@@ -94,8 +94,8 @@ Status derivatives(const Point& at) {
 } // namespace
 } // namespace ansatz::freundlich_evp
 
-ANSATZ_MODEL(Freundlich, ansatz::TwoParameter<ansatz::freundlich::value, ansatz::freundlich::derivatives>)
+ANSATZ_MODEL(Freundlich, ansatz::HandbookLaw<ansatz::freundlich::value, ansatz::freundlich::derivatives>)
 ANSATZ_MODEL(FreundlichMod1,
-             ansatz::TwoParameter<ansatz::freundlich_mod1::value, ansatz::freundlich_mod1::derivatives>)
+             ansatz::HandbookLaw<ansatz::freundlich_mod1::value, ansatz::freundlich_mod1::derivatives>)
 ANSATZ_MODEL(FreundlichEVP,
-             ansatz::TwoParameter<ansatz::freundlich_evp::value, ansatz::freundlich_evp::derivatives>)
+             ansatz::HandbookLaw<ansatz::freundlich_evp::value, ansatz::freundlich_evp::derivatives>)

@@ -10,8 +10,8 @@
 //   Fails for x <= 0, for a reference position <= 0 and where a power overflows; the last form also where its
 //   divisor is 0: equal references, or P5 = 0. Close to such parameters it loses digits to cancellation.
 
+#include "models/handbook/law.h"
 #include "models/handbook/power_scale.h"
-#include "models/handbook/three_parameter.h"
 
 namespace ansatz::freundlich_3p {
 namespace {
@@ -103,10 +103,8 @@ Status derivatives(const Point& at) {
 } // namespace ansatz::freundlich_3p_evp2
 
 ANSATZ_MODEL(Freundlich3P,
-             ansatz::ThreeParameterLaw<ansatz::freundlich_3p::value, ansatz::freundlich_3p::derivatives>)
-ANSATZ_MODEL(
-    Freundlich3PEVP1,
-    ansatz::ThreeParameterLaw<ansatz::freundlich_3p_evp1::value, ansatz::freundlich_3p_evp1::derivatives>)
-ANSATZ_MODEL(
-    Freundlich3PEVP2,
-    ansatz::ThreeParameterLaw<ansatz::freundlich_3p_evp2::value, ansatz::freundlich_3p_evp2::derivatives>)
+             ansatz::HandbookLaw<ansatz::freundlich_3p::value, ansatz::freundlich_3p::derivatives>)
+ANSATZ_MODEL(Freundlich3PEVP1,
+             ansatz::HandbookLaw<ansatz::freundlich_3p_evp1::value, ansatz::freundlich_3p_evp1::derivatives>)
+ANSATZ_MODEL(Freundlich3PEVP2,
+             ansatz::HandbookLaw<ansatz::freundlich_3p_evp2::value, ansatz::freundlich_3p_evp2::derivatives>)

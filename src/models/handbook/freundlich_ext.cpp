@@ -9,7 +9,7 @@
 //   Fails for x <= 0, for a reference position <= 0 and where a power overflows; the second form also where
 //   the power of the reference position underflows to 0, since it is divided by.
 
-#include "models/handbook/three_parameter.h"
+#include "models/handbook/law.h"
 
 namespace ansatz::freundlich_ext {
 namespace {
@@ -75,7 +75,6 @@ Status derivatives(const Point& at) {
 } // namespace ansatz::freundlich_ext_evp
 
 ANSATZ_MODEL(FreundlichEXT,
-             ansatz::ThreeParameterLaw<ansatz::freundlich_ext::value, ansatz::freundlich_ext::derivatives>)
-ANSATZ_MODEL(
-    FreundlichEXTEVP,
-    ansatz::ThreeParameterLaw<ansatz::freundlich_ext_evp::value, ansatz::freundlich_ext_evp::derivatives>)
+             ansatz::HandbookLaw<ansatz::freundlich_ext::value, ansatz::freundlich_ext::derivatives>)
+ANSATZ_MODEL(FreundlichEXTEVP,
+             ansatz::HandbookLaw<ansatz::freundlich_ext_evp::value, ansatz::freundlich_ext_evp::derivatives>)

@@ -7,7 +7,7 @@
 //
 //   Fails for x < 0 and where the denominator is 0. At x = 0 the value and all derivatives are 0.
 
-#include "models/handbook/three_parameter.h"
+#include "models/handbook/law.h"
 
 namespace ansatz::gunary {
 namespace {
@@ -39,4 +39,4 @@ Status derivatives(const Point& at) {
 } // namespace
 } // namespace ansatz::gunary
 
-ANSATZ_MODEL(Gunary, ansatz::ThreeParameterLaw<ansatz::gunary::value, ansatz::gunary::derivatives>)
+ANSATZ_MODEL(Gunary, ansatz::HandbookLaw<ansatz::gunary::value, ansatz::gunary::derivatives>)

@@ -8,8 +8,8 @@
 //   Fails for x <= 0, for a reference position <= 0, a response of 0, where a divisor is 0 (equal references
 //   and P5 = 0 among them) and where a power overflows. Responses may be negative.
 
+#include "models/handbook/law.h"
 #include "models/handbook/power_scale.h"
-#include "models/handbook/three_parameter.h"
 
 namespace ansatz::harris {
 namespace {
@@ -85,5 +85,5 @@ Status derivatives(const Point& at) {
 } // namespace
 } // namespace ansatz::harris_evp
 
-ANSATZ_MODEL(Harris, ansatz::ThreeParameterLaw<ansatz::harris::value, ansatz::harris::derivatives>)
-ANSATZ_MODEL(HarrisEVP, ansatz::ThreeParameterLaw<ansatz::harris_evp::value, ansatz::harris_evp::derivatives>)
+ANSATZ_MODEL(Harris, ansatz::HandbookLaw<ansatz::harris::value, ansatz::harris::derivatives>)
+ANSATZ_MODEL(HarrisEVP, ansatz::HandbookLaw<ansatz::harris_evp::value, ansatz::harris_evp::derivatives>)

@@ -6,7 +6,7 @@
 //
 //   Fails where the denominator is 0. No library function is called, so a pending error passes through unseen.
 
-#include "models/handbook/three_parameter.h"
+#include "models/handbook/law.h"
 
 namespace ansatz::holliday1 {
 namespace {
@@ -35,4 +35,4 @@ Status derivatives(const Point& at) {
 } // namespace
 } // namespace ansatz::holliday1
 
-ANSATZ_MODEL(Holliday1, ansatz::ThreeParameterLaw<ansatz::holliday1::value, ansatz::holliday1::derivatives>)
+ANSATZ_MODEL(Holliday1, ansatz::HandbookLaw<ansatz::holliday1::value, ansatz::holliday1::derivatives>)

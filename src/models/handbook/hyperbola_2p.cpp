@@ -15,7 +15,7 @@
 //   RectHyperbola; P2, P4 and P3 - P1 of HyperbolaEVP. Where one is 0 they are infinite or not a number, with
 //   status 0.
 
-#include "models/handbook/two_parameter.h"
+#include "models/handbook/law.h"
 
 namespace ansatz::rect_hyperbola {
 namespace {
@@ -96,8 +96,8 @@ Status derivatives(const Point& at) {
 } // namespace ansatz::hyperbola_evp
 
 ANSATZ_MODEL(RectHyperbola,
-             ansatz::TwoParameter<ansatz::rect_hyperbola::value, ansatz::rect_hyperbola::derivatives>)
+             ansatz::HandbookLaw<ansatz::rect_hyperbola::value, ansatz::rect_hyperbola::derivatives>)
 ANSATZ_MODEL(HyperbolaMod,
-             ansatz::TwoParameter<ansatz::hyperbola_mod::value, ansatz::hyperbola_mod::derivatives>)
+             ansatz::HandbookLaw<ansatz::hyperbola_mod::value, ansatz::hyperbola_mod::derivatives>)
 ANSATZ_MODEL(HyperbolaEVP,
-             ansatz::TwoParameter<ansatz::hyperbola_evp::value, ansatz::hyperbola_evp::derivatives>)
+             ansatz::HandbookLaw<ansatz::hyperbola_evp::value, ansatz::hyperbola_evp::derivatives>)

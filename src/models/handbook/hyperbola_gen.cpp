@@ -7,7 +7,7 @@
 //
 //   Fails for P4 == 0, for 1 + P3 x <= 0 and where the power overflows or underflows to 0.
 
-#include "models/handbook/three_parameter.h"
+#include "models/handbook/law.h"
 
 namespace ansatz::hyperbola_gen {
 namespace {
@@ -43,4 +43,4 @@ Status derivatives(const Point& at) {
 } // namespace ansatz::hyperbola_gen
 
 ANSATZ_MODEL(HyperbolaGen,
-             ansatz::ThreeParameterLaw<ansatz::hyperbola_gen::value, ansatz::hyperbola_gen::derivatives>)
+             ansatz::HandbookLaw<ansatz::hyperbola_gen::value, ansatz::hyperbola_gen::derivatives>)

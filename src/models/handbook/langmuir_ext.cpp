@@ -9,7 +9,7 @@
 //   Fails for x <= 0, where the denominator is 0 and where the power overflows, although the first form would
 //   have the saturation amount as its limit there.
 
-#include "models/handbook/three_parameter.h"
+#include "models/handbook/law.h"
 
 namespace ansatz::langmuir_ext1 {
 namespace {
@@ -75,6 +75,6 @@ Status derivatives(const Point& at) {
 } // namespace ansatz::langmuir_ext2
 
 ANSATZ_MODEL(LangmuirEXT1,
-             ansatz::ThreeParameterLaw<ansatz::langmuir_ext1::value, ansatz::langmuir_ext1::derivatives>)
+             ansatz::HandbookLaw<ansatz::langmuir_ext1::value, ansatz::langmuir_ext1::derivatives>)
 ANSATZ_MODEL(LangmuirEXT2,
-             ansatz::ThreeParameterLaw<ansatz::langmuir_ext2::value, ansatz::langmuir_ext2::derivatives>)
+             ansatz::HandbookLaw<ansatz::langmuir_ext2::value, ansatz::langmuir_ext2::derivatives>)

@@ -4,7 +4,7 @@
 //
 //   P1 slope; P2 x-intercept (unit of x). Never fails and never looks at the error indicator.
 
-#include "models/handbook/two_parameter.h"
+#include "models/handbook/law.h"
 
 namespace ansatz::line_mod {
 namespace {
@@ -27,4 +27,4 @@ Status derivatives(const Point& at) {
 } // namespace
 } // namespace ansatz::line_mod
 
-ANSATZ_MODEL(LineMod, ansatz::TwoParameter<ansatz::line_mod::value, ansatz::line_mod::derivatives>)
+ANSATZ_MODEL(LineMod, ansatz::HandbookLaw<ansatz::line_mod::value, ansatz::line_mod::derivatives>)

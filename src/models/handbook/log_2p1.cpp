@@ -11,7 +11,7 @@
 //   guarded against; what its divisions give is what the host gets. Most failures of its derivatives mark y[1]
 //   only.
 
-#include "models/handbook/two_parameter.h"
+#include "models/handbook/law.h"
 
 namespace ansatz::log_2p1 {
 namespace {
@@ -66,5 +66,5 @@ Status derivatives(const Point& at) {
 } // namespace
 } // namespace ansatz::log_2p1_evp
 
-ANSATZ_MODEL(Log2P1, ansatz::TwoParameter<ansatz::log_2p1::value, ansatz::log_2p1::derivatives>)
-ANSATZ_MODEL(Log2P1EVP, ansatz::TwoParameter<ansatz::log_2p1_evp::value, ansatz::log_2p1_evp::derivatives>)
+ANSATZ_MODEL(Log2P1, ansatz::HandbookLaw<ansatz::log_2p1::value, ansatz::log_2p1::derivatives>)
+ANSATZ_MODEL(Log2P1EVP, ansatz::HandbookLaw<ansatz::log_2p1_evp::value, ansatz::log_2p1_evp::derivatives>)

@@ -12,7 +12,7 @@
 //   Its derivatives divide the exponentials by q where the calculus has q (P3 - P1). So they are the true ones
 //   only where P3 - P1 == 1: choose the reference positions one unit of x apart, the lower one first.
 
-#include "models/handbook/two_parameter.h"
+#include "models/handbook/law.h"
 
 namespace ansatz::log_2p2 {
 namespace {
@@ -71,5 +71,5 @@ Status derivatives(const Point& at) {
 } // namespace
 } // namespace ansatz::log_2p2_evp
 
-ANSATZ_MODEL(Log2P2, ansatz::TwoParameter<ansatz::log_2p2::value, ansatz::log_2p2::derivatives>)
-ANSATZ_MODEL(Log2P2EVP, ansatz::TwoParameter<ansatz::log_2p2_evp::value, ansatz::log_2p2_evp::derivatives>)
+ANSATZ_MODEL(Log2P2, ansatz::HandbookLaw<ansatz::log_2p2::value, ansatz::log_2p2::derivatives>)
+ANSATZ_MODEL(Log2P2EVP, ansatz::HandbookLaw<ansatz::log_2p2_evp::value, ansatz::log_2p2_evp::derivatives>)

@@ -6,7 +6,7 @@
 //
 //   Fails for x + P3 <= 0.
 
-#include "models/handbook/three_parameter.h"
+#include "models/handbook/law.h"
 
 namespace ansatz::log_3p1 {
 namespace {
@@ -34,4 +34,4 @@ Status derivatives(const Point& at) {
 } // namespace
 } // namespace ansatz::log_3p1
 
-ANSATZ_MODEL(Ratkowsky4332, ansatz::ThreeParameterLaw<ansatz::log_3p1::value, ansatz::log_3p1::derivatives>)
+ANSATZ_MODEL(Ratkowsky4332, ansatz::HandbookLaw<ansatz::log_3p1::value, ansatz::log_3p1::derivatives>)

@@ -12,7 +12,7 @@
 //
 //   Fails where the denominator is 0. No library function is called, so a pending error passes through unseen.
 
-#include "models/handbook/three_parameter.h"
+#include "models/handbook/law.h"
 
 namespace ansatz::rational_3p {
 namespace {
@@ -47,7 +47,7 @@ template <int a, int b, int c, int d> struct Quotient {
 };
 
 template <int a, int b, int c, int d> using Model =
-    ThreeParameterLaw<Quotient<a, b, c, d>::value, Quotient<a, b, c, d>::derivatives>;
+    HandbookLaw<Quotient<a, b, c, d>::value, Quotient<a, b, c, d>::derivatives>;
 
 } // namespace
 } // namespace ansatz::rational_3p
@@ -82,4 +82,4 @@ ANSATZ_MODEL(Rational0, ansatz::rational_3p::Model<2, 3, ansatz::rational_3p::on
 ANSATZ_MODEL(Rational1, ansatz::rational_3p::Model<ansatz::rational_3p::one, 3, 1, 2>)
 ANSATZ_MODEL(Rational2, ansatz::rational_3p::Model<2, 3, 1, ansatz::rational_3p::one>)
 ANSATZ_MODEL(Rational3, ansatz::rational_3p::Model<2, ansatz::rational_3p::one, 1, 3>)
-ANSATZ_MODEL(Rational4, ansatz::ThreeParameterLaw<ansatz::rational4::value, ansatz::rational4::derivatives>)
+ANSATZ_MODEL(Rational4, ansatz::HandbookLaw<ansatz::rational4::value, ansatz::rational4::derivatives>)

@@ -10,7 +10,7 @@
 //
 //   The expected-value form is Pow2P3 with the rate P3 and the exponent -ln(1 - P2) / ln(1 + P3 P1).
 
-#include "models/handbook/two_parameter.h"
+#include "models/handbook/law.h"
 
 namespace ansatz::ratkowsky_2p1 {
 namespace {
@@ -79,6 +79,6 @@ Status derivatives(const Point& at) {
 } // namespace ansatz::ratkowsky_2p1_evp
 
 ANSATZ_MODEL(Ratkowsky2P1,
-             ansatz::TwoParameter<ansatz::ratkowsky_2p1::value, ansatz::ratkowsky_2p1::derivatives>)
+             ansatz::HandbookLaw<ansatz::ratkowsky_2p1::value, ansatz::ratkowsky_2p1::derivatives>)
 ANSATZ_MODEL(Ratkowsky2P1EVP,
-             ansatz::TwoParameter<ansatz::ratkowsky_2p1_evp::value, ansatz::ratkowsky_2p1_evp::derivatives>)
+             ansatz::HandbookLaw<ansatz::ratkowsky_2p1_evp::value, ansatz::ratkowsky_2p1_evp::derivatives>)

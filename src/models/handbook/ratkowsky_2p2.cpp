@@ -10,7 +10,7 @@
 //   Ratkowsky2P2EVP multiplies by its reference term. So P2 is not the response at x = P1, as it would be with
 //   a division: the curve takes the value P2 (1 - P1^(-P3))^2 there, and its asymptote is P2 (1 - P1^(-P3)).
 
-#include "models/handbook/two_parameter.h"
+#include "models/handbook/law.h"
 
 namespace ansatz::ratkowsky_2p2 {
 namespace {
@@ -62,6 +62,6 @@ Status derivatives(const Point& at) {
 } // namespace ansatz::ratkowsky_2p2_evp
 
 ANSATZ_MODEL(Ratkowsky2P2,
-             ansatz::TwoParameter<ansatz::ratkowsky_2p2::value, ansatz::ratkowsky_2p2::derivatives>)
+             ansatz::HandbookLaw<ansatz::ratkowsky_2p2::value, ansatz::ratkowsky_2p2::derivatives>)
 ANSATZ_MODEL(Ratkowsky2P2EVP,
-             ansatz::TwoParameter<ansatz::ratkowsky_2p2_evp::value, ansatz::ratkowsky_2p2_evp::derivatives>)
+             ansatz::HandbookLaw<ansatz::ratkowsky_2p2_evp::value, ansatz::ratkowsky_2p2_evp::derivatives>)

@@ -10,7 +10,7 @@
 //   In the expected-value form x and P1 may both lie below -1. Its value path does not look at the error
 //   indicator: an overflow gives an infinite value with status 0 and leaves the indicator set.
 
-#include "models/handbook/two_parameter.h"
+#include "models/handbook/law.h"
 
 namespace ansatz::ratkowsky_2p3 {
 namespace {
@@ -70,6 +70,6 @@ Status derivatives(const Point& at) {
 } // namespace ansatz::ratkowsky_2p3_evp
 
 ANSATZ_MODEL(Ratkowsky2P3,
-             ansatz::TwoParameter<ansatz::ratkowsky_2p3::value, ansatz::ratkowsky_2p3::derivatives>)
+             ansatz::HandbookLaw<ansatz::ratkowsky_2p3::value, ansatz::ratkowsky_2p3::derivatives>)
 ANSATZ_MODEL(Ratkowsky2P3EVP,
-             ansatz::TwoParameter<ansatz::ratkowsky_2p3_evp::value, ansatz::ratkowsky_2p3_evp::derivatives>)
+             ansatz::HandbookLaw<ansatz::ratkowsky_2p3_evp::value, ansatz::ratkowsky_2p3_evp::derivatives>)

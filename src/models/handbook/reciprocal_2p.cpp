@@ -12,7 +12,7 @@
 //   the derivatives marks y[1] only. The derivatives of ReciprocalEVP divide by D whatever it is: at a pole the
 //   host gets infinities or NaN with status 0, so look at the numbers there, not at the status.
 
-#include "models/handbook/two_parameter.h"
+#include "models/handbook/law.h"
 
 namespace ansatz::reciprocal {
 namespace {
@@ -90,8 +90,8 @@ Status derivatives(const Point& at) {
 } // namespace
 } // namespace ansatz::reciprocal_evp
 
-ANSATZ_MODEL(Reciprocal, ansatz::TwoParameter<ansatz::reciprocal::value, ansatz::reciprocal::derivatives>)
+ANSATZ_MODEL(Reciprocal, ansatz::HandbookLaw<ansatz::reciprocal::value, ansatz::reciprocal::derivatives>)
 ANSATZ_MODEL(ReciprocalMod,
-             ansatz::TwoParameter<ansatz::reciprocal_mod::value, ansatz::reciprocal_mod::derivatives>)
+             ansatz::HandbookLaw<ansatz::reciprocal_mod::value, ansatz::reciprocal_mod::derivatives>)
 ANSATZ_MODEL(ReciprocalEVP,
-             ansatz::TwoParameter<ansatz::reciprocal_evp::value, ansatz::reciprocal_evp::derivatives>)
+             ansatz::HandbookLaw<ansatz::reciprocal_evp::value, ansatz::reciprocal_evp::derivatives>)

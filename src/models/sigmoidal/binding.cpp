@@ -1,0 +1,70 @@
+// Binding1 and Binding2: equilibrium binding of a ligand to one or two kinds of site.
+//
+//   Binding1   y = P1 x / (P2 + x)
+//     P1 capacity, P2 dissociation constant (unit of x): half of the capacity is bound at x = P2
+//   Binding2   y = P1 x / (P3 + x) + P2 x / (P4 + x)
+//     P1, P2 capacities and P3, P4 dissociation constants of the two kinds
+//
+//   The value fails for nParams < 1, nothing else is tested: at x = -P2 the result is infinite or no number. No
+//   library function is called, so the error indicator shows only what the caller left there; such an error
+//   counts as saturation (y = P1, or P1 + P2) and is cleared. The derivatives take a pending range error
+//   so, with slopes that mean nothing, and pass a pending domain error by.
+
+#include "models/sigmoidal/limits.h"
+
+namespace ansatz::binding1 {
+namespace {
+
+Status value(const Point& at) {
+    const auto [n, P, x, y, dyda] = at;
+    if (n < 1) return fail(at);
+    if (math_error()) return reaches(at, P[1]);
+    const double r = 1 / (P[2] + x[1]);
+    y[1] = P[1] * x[1] * r;
+    return success;
+}
+
+Status derivatives(const Point& at) {
+    const auto [n, P, x, y, dyda] = at;
+    if (range_error()) return reaches(at, P[1], 0, 1);
+    const double r = 1 / (P[2] + x[1]);
+    const double all = P[1] * x[1];
+    y[1] = all * r;
+    dyda[1] = x[1] * r;
+    dyda[2] = -all * (r * r);
+    return success;
+}
+
+} // namespace
+} // namespace ansatz::binding1
+
+namespace ansatz::binding2 {
+namespace {
+
+Status value(const Point& at) {
+    const auto [n, P, x, y, dyda] = at;
+    if (n < 1) return fail(at);
+    if (math_error()) return reaches(at, P[1] + P[2]);
+    const double r1 = 1 / (P[3] + x[1]), r2 = 1 / (P[4] + x[1]);
+    y[1] = P[2] * x[1] * r2 + P[1] * x[1] * r1;
+    return success;
+}
+
+Status derivatives(const Point& at) {
+    const auto [n, P, x, y, dyda] = at;
+    if (range_error()) return reaches(at, P[1] + P[2], 0, 0, 1, 1);
+    const double r1 = 1 / (P[3] + x[1]), r2 = 1 / (P[4] + x[1]);
+    const double all1 = P[1] * x[1], all2 = P[2] * x[1];
+    y[1] = all2 * r2 + all1 * r1;
+    dyda[1] = x[1] * r1;
+    dyda[2] = x[1] * r2;
+    dyda[3] = -all1 * (r1 * r1);
+    dyda[4] = -all2 * (r2 * r2);
+    return success;
+}
+
+} // namespace
+} // namespace ansatz::binding2
+
+ANSATZ_MODEL(Binding1, ansatz::FormE<ansatz::binding1::value, ansatz::binding1::derivatives>)
+ANSATZ_MODEL(Binding2, ansatz::FormE<ansatz::binding2::value, ansatz::binding2::derivatives>)

@@ -1,0 +1,101 @@
+// Boltzman and BoltzIV: the Boltzmann transition between two levels, and its use for current-voltage curves.
+//
+//   Boltzman   y = P2 + (P1 - P2) / (1 + e^((x - P3)/P4))
+//     P1 start level, P2 end level, P3 centre, P4 width (unit of x)
+//   BoltzIV    y = (x - P4) P3 / (1 + e^((x - P1)/P2))
+//     P1 centre, P2 width, P3 slope of the straight branch, P4 x of zero current
+//
+//   A negative width swaps the ends. The value fails for nParams <= 0 and for a width of exactly 0; the
+//   derivatives fail for a width below 1e-18 in size, marking y only.
+//
+//   Where (x - centre)/width is above 665 the curve is taken to be at its far end (P2, or 0 for BoltzIV) and
+//   the slopes are those of the far end. An error left pending by the caller looks the same and is cleared.
+
+#include "models/sigmoidal/limits.h"
+
+#include <optional>
+
+namespace ansatz {
+namespace {
+
+constexpr double far_end = 665;
+constexpr double least_width = 1e-18;
+
+/// e^u, or nothing at the far end of the transition.
+std::optional<double> exp_before_far_end(double u) {
+    if (u > far_end) return {};
+    const double t = safe_exp(u);
+    if (math_error()) return {};
+    return t;
+}
+
+} // namespace
+} // namespace ansatz
+
+namespace ansatz::boltzman {
+namespace {
+
+Status value(const Point& at) {
+    const auto [n, P, x, y, dyda] = at;
+    if (n <= 0 || P[4] == 0) return fail(at);
+    const auto t = exp_before_far_end((x[1] - P[3]) / P[4]);
+    if (!t) return reaches(at, P[2]);
+    y[1] = (P[1] - P[2]) / (*t + 1) + P[2];
+    return success;
+}
+
+Status derivatives(const Point& at) {
+    const auto [n, P, x, y, dyda] = at;
+    if (std::fabs(P[4]) < least_width) return fail(at);
+    const double u = (x[1] - P[3]) / P[4];
+    const auto t = exp_before_far_end(u);
+    if (!t) return reaches(at, P[2], 0, 1, 0, 0);
+    const double s = *t + 1;
+    const double share = 1 / s, rest = 1 - share;
+    const double fall = P[1] - P[2];
+    const double by_centre = fall * share * rest / P[4];
+    y[1] = fall / s + P[2];
+    dyda[1] = share;
+    dyda[2] = rest;
+    dyda[3] = by_centre;
+    dyda[4] = by_centre * u;
+    return success;
+}
+
+} // namespace
+} // namespace ansatz::boltzman
+
+namespace ansatz::boltz_iv {
+namespace {
+
+Status value(const Point& at) {
+    const auto [n, P, x, y, dyda] = at;
+    if (n <= 0 || P[2] == 0) return fail(at);
+    const auto t = exp_before_far_end((x[1] - P[1]) / P[2]);
+    if (!t) return reaches(at, 0);
+    y[1] = (x[1] - P[4]) * P[3] / (*t + 1);
+    return success;
+}
+
+Status derivatives(const Point& at) {
+    const auto [n, P, x, y, dyda] = at;
+    const double width = P[2], slope = P[3];
+    if (std::fabs(width) < least_width) return fail(at);
+    const double from_centre = x[1] - P[1];
+    const auto e = exp_before_far_end(from_centre / width);
+    if (!e) return reaches(at, 0, 0, 0, 0, 0);
+    const double t = *e, s = 1 + t;
+    const double from_zero = x[1] - P[4];
+    dyda[1] = from_zero * slope * t / (s * width * s);
+    dyda[2] = t * slope * from_zero * from_centre / (width * width * (s * s));
+    dyda[3] = from_zero / s;
+    dyda[4] = -slope / s;
+    y[1] = from_zero * slope / s;
+    return success;
+}
+
+} // namespace
+} // namespace ansatz::boltz_iv
+
+ANSATZ_MODEL(Boltzman, ansatz::FormE<ansatz::boltzman::value, ansatz::boltzman::derivatives>)
+ANSATZ_MODEL(BoltzIV, ansatz::FormE<ansatz::boltz_iv::value, ansatz::boltz_iv::derivatives>)
