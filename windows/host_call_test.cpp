@@ -46,7 +46,10 @@ Answer ask(FitFunction function, const Request& request, std::uint32_t misalignm
            const HostSettings& settings) {
     std::array<double, slots> P;
     Answer answer;
-    for (auto* array : {&P, &answer.x, &answer.y, &answer.dyda}) array->fill(canary());
+    P.fill(poison);
+    answer.x.fill(poison);
+    answer.y.fill(canary);
+    answer.dyda.fill(canary);
     std::copy(request.P.begin(), request.P.end(), P.begin() + 1);
     std::copy(request.x.begin(), request.x.end(), answer.x.begin() + 1);
     const auto n = static_cast<std::uint32_t>(request.nParams) & 0xffff;

@@ -11,17 +11,24 @@
 
 namespace ansatz::c_library {
 
+using std::erfc;
 using std::exp;
 using std::log;
+using std::log1p;
 using std::pow;
 using std::sqrt;
 
 #if defined(_WIN32) && defined(__i386__)
+/// Does the library set errno in calls that end well? Its erfc does, where an exponential inside underflows.
+inline constexpr bool notes_false_errors = true;
+
 double sin(double t);
 double cos(double t);
 double tanh(double t);
 double acos(double t);
 #else
+inline constexpr bool notes_false_errors = false;
+
 using std::acos;
 using std::cos;
 using std::sin;

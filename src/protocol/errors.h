@@ -90,10 +90,16 @@ inline bool ordinary(double r) {
     return r;
 }
 
+/// An ordinary result of a call that found the indicator at `before`.
+inline double accept(double r, int before) {
+    if constexpr (c_library::notes_false_errors) errno = before;
+    return r;
+}
+
 template <double (*f)(double)> inline double checked(double t) {
     const int before = errno;
     const double r = f(t);
-    return ordinary(r) ? r : settle(r, before, std::isfinite(t), std::isnan(t));
+    return ordinary(r) ? accept(r, before) : settle(r, before, std::isfinite(t), std::isnan(t));
 }
 
 } // namespace detail
@@ -106,7 +112,7 @@ inline double log(double t) {
     return detail::checked<c_library::log>(t);
 }
 inline double log1p(double t) {
-    return detail::checked<std::log1p>(t);
+    return detail::checked<c_library::log1p>(t);
 }
 inline double sqrt(double t) {
     return detail::checked<c_library::sqrt>(t);
@@ -124,10 +130,14 @@ inline double acos(double t) {
     return detail::checked<c_library::acos>(t);
 }
 
+inline double erfc(double t) {
+    return detail::checked<c_library::erfc>(t);
+}
+
 inline double pow(double a, double b) {
     const int before = errno;
     const double r = c_library::pow(a, b);
-    return detail::ordinary(r) ? r
+    return detail::ordinary(r) ? detail::accept(r, before)
                                : detail::settle(r, before, std::isfinite(a) && std::isfinite(b),
                                                 std::isnan(a) || std::isnan(b));
 }

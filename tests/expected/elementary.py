@@ -53,3 +53,7 @@ for t in scales(-15, 0, 40) + spread(-5, 5, 40) + [18.0, 19.5, -22.5, 40.0, 800.
     line("tanh", mp.tanh, t) if abs(t) < 1000 else print("tanh", t.hex(), "0x1p+0" if t > 0 else "-0x1p+0")
 for t in spread(-1, 1, 40) + scales(-15, -1, 15) + [random.choice((-1, 1)) * (1 - abs(s)) for s in scales(-14, -1, 25)]:
     line("acos", mp.acos, t)
+for t in spread(-6, 6, 40) + spread(6, 26.5, 15) + scales(-15, 0, 15) + [-40.0, -1e6]:
+    line("erfc", mp.erfc, t) if t > -9 else print("erfc", t.hex(), "0x1p+1")
+for t in scales(-15, 0, 40) + [abs(s) for s in scales(0, 300, 30)] + [-0.999, -0.75]:
+    line("log1p", mp.log1p, t) if t > -1 else None
