@@ -48,7 +48,8 @@ TEST(Elementary, FunctionsAreGoodToTheLastDigit) {
         const double got = evaluate(function, numbers);
         EXPECT_EQ(errno, 0) << text;
         const double off = distance(got, want);
-        EXPECT_LE(off, function == "tanh" ? 2 : 1) << text << ", got " << got << " for " << want;
+        const bool harder = function == "tanh" || function == "erfc"; // C libraries promise 2 ulp there
+        EXPECT_LE(off, harder ? 2 : 1) << text << ", got " << got << " for " << want;
         worst[function] = std::max(worst[function], off);
     }
     EXPECT_EQ(worst.size(), 9u);
