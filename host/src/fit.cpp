@@ -156,7 +156,7 @@ public:
     }
 
     bool Evaluate(const double* const* parameters, double* values, double** jacobians) const override {
-        const Index n = static_cast<Index>(residuals_.free().size());
+        const auto n = static_cast<Index>(residuals_.free().size());
         if (!residuals_.evaluate(Eigen::Map<const VectorXd>(parameters[0], n))) return false;
         const Linearisation& at = residuals_.at();
         std::copy_n(at.residuals.data(), at.residuals.size(), values);
