@@ -10,6 +10,7 @@ Family sigmoids();
 Family exponentials();
 Family handbook();
 Family polynomials();
+Family powers();
 Family distributions();
 Family surfaces();
 Family multi();
