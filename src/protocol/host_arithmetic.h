@@ -37,8 +37,8 @@ private:
     static void load_x87(unsigned short settings) { asm volatile("fldcw %0" ::"m"(settings) : "memory"); }
     static void load_sse(unsigned settings) { asm volatile("ldmxcsr %0" ::"m"(settings) : "memory"); }
 
-    unsigned short x87_;
-    unsigned sse_;
+    unsigned short x87_ = 0;
+    unsigned sse_ = 0;
 };
 
 #else
