@@ -11,6 +11,7 @@ Family growth();
 Family exponentials();
 Family handbook();
 Family polynomials();
+Family powers();
 Family distributions();
 Family surfaces();
 Family multi();
