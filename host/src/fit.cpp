@@ -406,7 +406,8 @@ Fit fit(const Model& model, const Data& data, const std::vector<Start>& start, c
     case ceres::CONVERGENCE:
         result.converged = at_minimum;
         if (!at_minimum) {
-            result.termination = "stopped short of a minimum: no step lowers the sum of squares";
+            result.termination = fmt::format("stopped short of a minimum{}: no step lowers the sum of squares",
+                                             result.numerical ? "" : " (numerical derivatives may do better)");
             break;
         }
         result.termination = "converged: the sum of squares no longer decreases";

@@ -194,6 +194,7 @@ TEST(Failure, ShortOfAMinimumIsNoConvergence) {
     const Fit stuck = fit(custom::misleading(), data, starts(custom::misleading(), {0}));
     EXPECT_FALSE(stuck.converged);
     EXPECT_NEAR(stuck.relative_offset, 1, 0.01);
+    EXPECT_NE(stuck.termination.find("numerical"), std::string::npos) << stuck.termination;
     const auto start = starts(custom::misleading(), {0});
     EXPECT_TRUE(fit(custom::misleading(), data, start, {.derivatives = Derivatives::numerical}).converged);
     // Exact data leave nothing but rounding in the residuals, in whatever direction.
