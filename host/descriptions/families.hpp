@@ -7,6 +7,7 @@ namespace ansatz::host::descriptions {
 
 Family peaks();
 Family sigmoids();
+Family growth();
 Family exponentials();
 Family handbook();
 Family polynomials();
