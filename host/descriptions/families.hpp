@@ -9,6 +9,7 @@ Family peaks();
 Family sigmoids();
 Family growth();
 Family exponentials();
+Family lanczos();
 Family handbook();
 Family polynomials();
 Family distributions();
