@@ -1,6 +1,7 @@
 // Fits with known answers: certified values, closed forms, exact data.
 
 #include "custom_models.hpp"
+#include "eckerle4.hpp"
 
 #include <ansatz/host/fit.hpp>
 
@@ -19,14 +20,8 @@ void expect_relative(double actual, double expected, double tolerance, const cha
 }
 
 Data eckerle4() {
-    return {.x = vector({400,   405, 410,   415, 420,   425, 430,   435, 436.5, 438, 439.5, 441,
-                         442.5, 444, 445.5, 447, 448.5, 450, 451.5, 453, 454.5, 456, 457.5, 459,
-                         460.5, 462, 463.5, 465, 470,   475, 480,   485, 490,   495, 500}),
-            .y = vector({0.0001575, 0.0001699, 0.0002350, 0.0003102, 0.0004917, 0.0008710, 0.0017418,
-                         0.0046400, 0.0065895, 0.0097302, 0.0149002, 0.0237310, 0.0401683, 0.0712559,
-                         0.1264458, 0.2073413, 0.2902366, 0.3445623, 0.3698049, 0.3668534, 0.3106727,
-                         0.2078154, 0.1164354, 0.0616764, 0.0337200, 0.0194023, 0.0117831, 0.0074357,
-                         0.0022732, 0.0008800, 0.0004579, 0.0002345, 0.0001586, 0.0001143, 0.0000710})};
+    return {.x = Eigen::Map<const Eigen::VectorXd>(eckerle4_x.data(), std::ssize(eckerle4_x)),
+            .y = Eigen::Map<const Eigen::VectorXd>(eckerle4_y.data(), std::ssize(eckerle4_y))};
 }
 
 /// The certified fit of (b1/b2) exp(-0.5 ((x - b3)/b2)^2), in the terms of "Gauss" with its offset held at 0.
