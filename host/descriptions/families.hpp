@@ -9,10 +9,13 @@ Family peaks();
 Family sigmoids();
 Family exponentials();
 Family handbook();
+Family handbook_two_parameter();
+Family handbook_three_parameter();
 Family polynomials();
 Family distributions();
 Family surfaces();
 Family multi();
+Family testing();
 Family reserved();
 
 } // namespace ansatz::host::descriptions
