@@ -168,11 +168,11 @@ TEST(Covariance, OfARedundantModelIsRefusedByName) {
     for (const Estimate& parameter : result.parameters) EXPECT_FALSE(parameter.error);
 }
 
-// A column of the Jacobian is so short here that the inverse of its square overflows.
+// The columns of the Jacobian are so short here that the inverse of its square overflows.
 TEST(Covariance, OfAnAllButFlatModelIsRefused) {
-    const Model model = Model::find("Exp2P");
-    const Data data{.x = vector({1, 2, 3}), .y = vector({1, 2, 4})};
-    const Fit result = fit(model, data, starts(model, {1, 1e-158}), {.max_iterations = 0});
+    const Model model = Model::find("Freundlich");
+    const Data data{.x = vector({0.1, 0.101, 0.102}), .y = vector({1, 2, 4})};
+    const Fit result = fit(model, data, starts(model, {1, 158}), {.max_iterations = 0});
     EXPECT_EQ(result.covariance.size(), 0);
     EXPECT_EQ(result.undetermined, (std::vector<int>{0, 1}));
     for (const Estimate& parameter : result.parameters) EXPECT_FALSE(parameter.error);
