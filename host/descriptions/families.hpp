@@ -12,6 +12,7 @@ Family handbook();
 Family handbook_two_parameter();
 Family handbook_three_parameter();
 Family polynomials();
+Family powers();
 Family distributions();
 Family surfaces();
 Family multi();

@@ -29,6 +29,7 @@ std::span<const Family> families() {
                                             d::handbook_two_parameter(),
                                             d::handbook_three_parameter(),
                                             d::polynomials(),
+                                            d::powers(),
                                             d::distributions(),
                                             d::surfaces(),
                                             d::multi(),
