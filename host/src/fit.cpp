@@ -271,6 +271,12 @@ void estimate_errors(Fit& fit, const Residuals& residuals, const std::vector<Ind
     fit.covariance = scale * (inverse.asDiagonal() * unscaled * inverse.asDiagonal());
     const VectorXd deviations = unscaled.diagonal().cwiseSqrt();
     fit.correlation = unscaled.cwiseQuotient(deviations * deviations.transpose());
+    if (!fit.covariance.allFinite() || !fit.correlation.allFinite()) { // where the model is all but flat
+        fit.covariance.resize(0, 0);
+        fit.correlation.resize(0, 0);
+        fit.undetermined = slots;
+        return;
+    }
     fit.varied = slots;
     for (Index j = 0; j < n; ++j) {
         fit.parameters[static_cast<std::size_t>(slots[static_cast<std::size_t>(j)])].error =

@@ -163,6 +163,36 @@ TEST(Covariance, OfARedundantModelIsRefusedByName) {
     for (const Estimate& parameter : result.parameters) EXPECT_FALSE(parameter.error);
 }
 
+// The columns of the Jacobian are so short here that the inverse of its square overflows.
+TEST(Covariance, OfAnAllButFlatModelIsRefused) {
+    const Model model = Model::find("Freundlich");
+    const Data data{.x = vector({0.1, 0.101, 0.102}), .y = vector({1, 2, 4})};
+    const Fit result = fit(model, data, starts(model, {1, 158}), {.max_iterations = 0});
+    EXPECT_EQ(result.covariance.size(), 0);
+    EXPECT_EQ(result.undetermined, (std::vector<int>{0, 1}));
+    for (const Estimate& parameter : result.parameters) EXPECT_FALSE(parameter.error);
+}
+
+// The routine's own derivatives are those of the law times the distance of the references: with them the
+// standard errors would be that much too small, and descending references would lead every step uphill.
+TEST(UntrueDerivatives, AreReplacedByDifferences) {
+    const Model line = Model::find("Log2P2"), expected = Model::find("Log2P2EVP");
+    const Data data{.x = vector({0, 1, 2, 4, 7, 8}), .y = vector({0.75, 1.2, 1.65, 2.05, 2.55, 2.6})};
+    EXPECT_TRUE(line.analytic());
+    EXPECT_FALSE(expected.analytic());
+    const Fit plain = fit(line, data, starts(line, {1, 1}));
+    const double a = plain.parameters[0].value;
+    for (const auto& guess : {std::vector{0.0, 1.0, 8.0, 3.0}, {8.0, 3.0, 0.0, 1.0}}) {
+        const Fit result = fit(expected, data, starts(expected, guess));
+        const Estimate& at_zero = result.parameters[guess[0] == 0 ? 1 : 3]; // the response at x = 0 is ln a
+        EXPECT_TRUE(result.converged) << result.termination;
+        expect_relative(result.rss, plain.rss, 1e-10, "residual sum of squares");
+        expect_relative(at_zero.value, std::log(a), 1e-8, "response at 0");
+        ASSERT_TRUE(at_zero.error && plain.parameters[0].error);
+        expect_relative(*at_zero.error, *plain.parameters[0].error / a, 1e-6, "its error");
+    }
+}
+
 TEST(Failure, AtTheStartNamesThePoint) {
     Eigen::MatrixXd x(3, 2);
     x << 1, 1, -4, 2, 3, 5;
