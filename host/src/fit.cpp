@@ -271,6 +271,12 @@ void estimate_errors(Fit& fit, const Residuals& residuals, const std::vector<Ind
     fit.covariance = scale * (inverse.asDiagonal() * unscaled * inverse.asDiagonal());
     const VectorXd deviations = unscaled.diagonal().cwiseSqrt();
     fit.correlation = unscaled.cwiseQuotient(deviations * deviations.transpose());
+    if (!fit.covariance.allFinite() || !fit.correlation.allFinite()) { // where the model is all but flat
+        fit.covariance.resize(0, 0);
+        fit.correlation.resize(0, 0);
+        fit.undetermined = slots;
+        return;
+    }
     fit.varied = slots;
     for (Index j = 0; j < n; ++j) {
         fit.parameters[static_cast<std::size_t>(slots[static_cast<std::size_t>(j)])].error =
@@ -406,7 +412,8 @@ Fit fit(const Model& model, const Data& data, const std::vector<Start>& start, c
     case ceres::CONVERGENCE:
         result.converged = at_minimum;
         if (!at_minimum) {
-            result.termination = "stopped short of a minimum: no step lowers the sum of squares";
+            result.termination = fmt::format("stopped short of a minimum{}: no step lowers the sum of squares",
+                                             result.numerical ? "" : " (numerical derivatives may do better)");
             break;
         }
         result.termination = "converged: the sum of squares no longer decreases";

@@ -35,6 +35,7 @@ struct Description {
     bool implicit = false;                 ///< y[1] is a residual, fitted to zero: there is no y column
     int inputs = 0;                        ///< number of x columns where the model reads more than its row says
     bool reserved = false;                 ///< the name is taken, nothing is computed
+    bool true_derivatives = true;          ///< if not, the host takes differences in place of the model's own
     std::string_view notes = {};           ///< where the model fails, and oddities
 };
 
