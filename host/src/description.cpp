@@ -22,9 +22,18 @@ struct CaselessOrder {
 
 std::span<const Family> families() {
     namespace d = descriptions;
-    static const std::vector<Family> all = {
-        d::peaks(),       d::sigmoids(),      d::growth(),   d::exponentials(), d::handbook(),
-        d::polynomials(), d::distributions(), d::surfaces(), d::multi(),        d::reserved()};
+    static const std::vector<Family> all = {d::peaks(),
+                                            d::sigmoids(),
+                                            d::growth(),
+                                            d::exponentials(),
+                                            d::handbook(),
+                                            d::handbook_asymptotic(),
+                                            d::handbook_one_parameter(),
+                                            d::polynomials(),
+                                            d::distributions(),
+                                            d::surfaces(),
+                                            d::multi(),
+                                            d::reserved()};
     return all;
 }
 
