@@ -60,7 +60,8 @@ Family handbook() {
              .parameters = {{"a", "offset"},
                             {"b", "scale: y - a at x = 1"},
                             {"c", "inverse of the exponent, not 0"}},
-             .notes = "Fails for c = 0, for x < 0 with a broken 1/c, and for x = 0 with c < 0."},
+             .notes = "Fails for c = 0, and for x = 0 with c < 0. For x < 0 there is a value only where 1/c is "
+                      "a whole number, and no fit."},
             {.name = "Stirling",
              .formula = "y = a + b (exp(k x) - 1)/k",
              .parameters = {{"a", "y at x = 0"},

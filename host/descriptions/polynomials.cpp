@@ -69,10 +69,9 @@ Family polynomials() {
                            {"b", "coefficient of z; 1, with c = d = 0, makes it a Lorentzian"},
                            {"c", "coefficient of z^2"},
                            {"d", "coefficient of z^3"}},
-                 .notes =
-                     "Width and coefficients scale together: hold one of them fixed per peak in a fit, b=1 for "
-                     "instance. Fails for w <= 0. A peak of amplitude 0 has no derivatives: do not start a "
-                     "fit there."},
+                 .notes = "Width and coefficients scale together: hold one of them fixed per peak in a fit, "
+                          "b=1 for instance. Negative c or d make poles: bound them from below by 0. Fails for "
+                          "w <= 0. A peak of amplitude 0 has no derivatives: do not start a fit there."},
             }};
 }
 
