@@ -5,9 +5,8 @@
 //   FLAGS   value, deriv, both, query, probe, none, or the flags byte as a number
 //   n       nParams, by default the number of parameters given
 //   errno   the error indicator on entry, and after the call (0 when not named)
-//   slot    y1, d3, x2 ...; value a number (met to 4 ulp; 0, inf and nan exactly), or missing. Slots not named
-//   must be
-//           left untouched. d0:CODE= stands for a 32-bit code at dyda[0].
+//   slot    y1, d3, x2 ...; value a number (met to 4 ulp; 0, inf and nan exactly), or missing. Slots not
+//           named must be left untouched. d0:CODE= stands for a 32-bit code at dyda[0].
 //
 // Numbers are worked out by hand or with many digits, never taken from a run.
 

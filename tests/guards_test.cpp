@@ -1,12 +1,10 @@
-// The guards and the error indicator, from inside the library; and how many rows still wait for their model.
+// The guards and the error indicator, from inside the library.
 
 #include "catalogue/catalogue.h"
-#include "catalogue/routines.h"
 #include "protocol/guards.h"
 
 #include <gtest/gtest.h>
 
-#include <cstdio>
 #include <limits>
 
 namespace ansatz {
@@ -80,20 +78,6 @@ TEST(Catalogue, CountsOfAnUnknownNameAreZero) {
     EXPECT_EQ(param_count("polyn"), 10);
     EXPECT_EQ(indep_count("Poly"), 0);
     EXPECT_EQ(param_count("Poly"), 0);
-}
-
-TEST(Catalogue, RowsWithoutAModelYetFailHonestly) {
-    int open = 0;
-    double P[16] = {}, x[4] = {}, y[4], dyda[16];
-    for (const FunctionEntry& row : FunctionCatalogue) {
-        if (row.function != ansatz_Unbuilt) continue;
-        ++open;
-        y[1] = 0;
-        EXPECT_EQ(row.function(FF_QUERY_DERIV, 0, 1, 0, 0, P, 0, x, y, dyda), 0);
-        EXPECT_EQ(row.function(FF_VALUE, 0, 1, 0, 0, P, 0, x, y, dyda), 1);
-        EXPECT_EQ(y[1], MISSING_VALUE);
-    }
-    std::printf("rows whose model is still to come: %d of %d\n", open, catalogue_size);
 }
 
 } // namespace

@@ -9,6 +9,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <limits>
 #include <sstream>
 
 namespace ansatz::tools {
@@ -96,6 +97,38 @@ double round_step(double number) {
     return power;
 }
 
+/// The corner in which a key of this many entries covers least of the data and the curve.
+std::string free_corner(const host::Data& data, const Eigen::MatrixXd& x, const Eigen::MatrixXd& y,
+                        std::size_t entries) {
+    const double low = data.y.minCoeff(), high = data.y.maxCoeff();
+    const double across = 0.3 * (x.maxCoeff() - x.minCoeff()),
+                 down = 0.08 * static_cast<double>(entries + 1) * (high - low);
+    const auto covered = [&](bool top, bool right) {
+        const auto count = [&](const Eigen::MatrixXd& xs, const Eigen::MatrixXd& ys) {
+            int inside = 0;
+            for (Eigen::Index i = 0; i < ys.rows(); ++i) {
+                const bool beside = right ? xs(i, 0) > x.maxCoeff() - across : xs(i, 0) < x.minCoeff() + across;
+                for (Eigen::Index d = 0; beside && d < ys.cols(); ++d) {
+                    inside += top ? ys(i, d) > high - down : ys(i, d) < low + down;
+                }
+            }
+            return static_cast<double>(inside) / static_cast<double>(ys.rows());
+        };
+        return count(data.x, data.y) + count(x, y);
+    };
+    std::string best;
+    double least = std::numeric_limits<double>::infinity();
+    for (const bool top : {true, false}) {
+        for (const bool right : {true, false}) {
+            const double share = covered(top, right);
+            if (share >= least) continue;
+            least = share;
+            best = fmt::format("{} {}", top ? "top" : "bottom", right ? "right" : "left");
+        }
+    }
+    return best;
+}
+
 void run_gnuplot(const std::string& script, const std::string& file) {
     std::FILE* pipe = popen("gnuplot", "w");
     if (!pipe) throw Error("--plot: gnuplot cannot be started");
@@ -145,8 +178,9 @@ void plot(const host::Model& model, const host::Data& data, const host::Fit& fit
         fmt::format("set border 3 linecolor rgb '{0}'\nset tics nomirror out scale 0.6 textcolor rgb '{0}'\n"
                     "set grid linecolor rgb '{1}' linetype 1 linewidth 0.7\n"
                     "set lmargin at screen 0.115\nset rmargin at screen 0.97\n"
-                    "set xrange [{2:.17g}:{3:.17g}]\nset key top right samplen 2 spacing 1.2\n",
-                    ink, grid, low - margin, high + margin);
+                    "set xrange [{2:.17g}:{3:.17g}]\nset key {4} samplen 2 spacing 1.2\n",
+                    ink, grid, low - margin, high + margin,
+                    free_corner(data, x, curve.y, static_cast<std::size_t>(2 * outputs + peaks)));
 
     // Above: data and curve.
     script += fmt::format("set multiplot\nset tmargin at screen 0.93\nset bmargin at screen 0.34\n"

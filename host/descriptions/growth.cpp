@@ -57,7 +57,8 @@ Family growth() {
                             {"d", "shape, other than 1; 2 makes it the logistic curve"},
                             {"k", "rate, above 0"}},
              .notes = "Fails for d = 1, a <= 0 and k <= 0, and for d < 1 where the base of the outer power is "
-                      "not positive, before growth sets in. A fit cannot cross d = 1: start on the right side. "
+                      "not positive, before growth sets in: data that begin earlier need d > 1. A fit cannot "
+                      "cross d = 1: start on the right side. "
                       "xc is hard to guess, since it depends on a and d; SRichards2 has the same curves for "
                       "d > 1 with an xc one can see."},
             {.name = "SRichards2",
@@ -66,10 +67,10 @@ Family growth() {
                             {"xc", "centre: x of the fastest growth, where y = a d^(1/(1 - d))"},
                             {"d", "shape, above 0, other than 1; 2 makes it the logistic curve"},
                             {"k", "rate, above 0"}},
-             .notes =
-                 "Fails for d = 1, a <= 0, d <= 0 and k <= 0, and for d < 1 where the base of the outer "
-                 "power is not positive, before growth sets in. Approaches SGompertz for d near 1, but a fit "
-                 "cannot cross it: start on the right side."},
+             .notes = "Fails for d = 1, a <= 0, d <= 0 and k <= 0, and for d < 1 where the base of the outer "
+                      "power is not positive, before growth sets in: data that begin earlier need d > 1. "
+                      "Approaches SGompertz for d near 1, but a fit "
+                      "cannot cross it: start on the right side."},
             {.name = "SWeibull1",
              .formula = "y = a (1 - exp(-((x - xc) k)^d))",
              .parameters = {{"a", "ceiling"},

@@ -74,7 +74,7 @@ Family handbook() {
                             {"k1", "first rate, 1/(unit of x)"},
                             {"A2", "second amplitude"},
                             {"k2", "second rate"}},
-             .differences = true,
+             .true_derivatives = false,
              .notes = "Start with rates that differ: at k1 = k2 the amplitudes cannot be told apart. The model "
                       "announces derivatives and computes none."},
             {.name = "MWChang",

@@ -30,7 +30,7 @@ Family handbook_asymptotic() {
                 {.name = "Asymptotic5",
                  .formula = "y = a + (y0 - a) exp(-k x)",
                  .parameters = {{"a", "asymptote"}, rate, {"y0", "y at x = 0"}},
-                 .differences = true,
+                 .true_derivatives = false,
                  .notes = "Fails for k <= 0. The model's own derivative by y0 has the wrong sign at x = 0, so "
                           "that a fit takes derivatives by differences."},
                 {.name = "Asymptotic6",

@@ -19,14 +19,14 @@ Family handbook_one_parameter() {
             {.name = "LogarithmEVP",
              .formula = "y = ln(x - X - exp(b))",
              .parameters = {reference, {"b", "logarithm of the distance from X to where the curve starts"}},
-             .differences = true,
+             .true_derivatives = false,
              .notes = "Fails for x <= X + exp(b), also at X itself, so choose X left of the data. For b beyond "
                       "709 y is b. The model's own derivative by b has the wrong sign, so that a fit takes "
                       "derivatives by differences."},
             {.name = "Reciprocal0",
              .formula = "y = 1/(1 + a x)",
              .parameters = {{"a", "slope of 1/y"}},
-             .differences = true,
+             .true_derivatives = false,
              .notes = "Fails only where 1 + a x is exactly 0. The model's own derivative is not that of y, so "
                       "that a fit takes derivatives by differences."},
             {.name = "Reciprocal0EVP",

@@ -13,7 +13,10 @@ Family sigmoids() {
              .parameters = {{"Vmax", "ceiling"},
                             {"k", "x of half the ceiling"},
                             {"n", "steepness; negative: the curve falls from Vmax to 0"}},
-             .notes = "Fails for x < 0 and for k < 0; k = 0 has no derivatives, so do not start a fit there."},
+             .notes = "Fails for x < 0 and for k < 0; k = 0 has no derivatives, so do not start a fit there. "
+                      "For n < 0 the "
+                      "derivatives at x = 0 are answered with 0, though the one by Vmax is 1: leave such a "
+                      "point out."},
             {.name = "Hill1",
              .formula = "y = A1 + (A2 - A1)/(1 + (k/x)^n)",
              .parameters = {{"A1", "start level, at x = 0 for n > 0"},
@@ -21,8 +24,11 @@ Family sigmoids() {
                             {"k", "x half-way between the levels"},
                             {"n", "steepness"}},
              .notes =
-                 "Fails for x < 0 and for k < 0; k = 0 has no derivatives. Exchanging A1 with A2 and changing "
-                 "the sign of n gives the same curve, except at x = 0, where y is always A1: keep n > 0."},
+                 "Fails for x < 0 and for k < 0; k = 0 has no derivatives. At x = 0, where y is A1 for either "
+                 "sign of "
+                 "n, all derivatives are answered with 0, though the one by A1 is 1: a fit with such a point "
+                 "stops short of the minimum, so leave it out or take numerical derivatives (--numerical). "
+                 "Exchanging A1 with A2 and changing the sign of n gives the same curve elsewhere."},
             {.name = "Logistic",
              .formula = "y = A2 + (A1 - A2)/(1 + (x/x0)^p)",
              .parameters = {{"A1", "level at small x, for p > 0"},

@@ -29,10 +29,14 @@ std::span<const Family> families() {
                                             d::handbook(),
                                             d::handbook_asymptotic(),
                                             d::handbook_one_parameter(),
+                                            d::handbook_two_parameter(),
+                                            d::handbook_three_parameter(),
                                             d::polynomials(),
+                                            d::powers(),
                                             d::distributions(),
                                             d::surfaces(),
                                             d::multi(),
+                                            d::testing(),
                                             d::reserved()};
     return all;
 }

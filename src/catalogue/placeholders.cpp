@@ -1,4 +1,4 @@
-// Routines behind rows that compute nothing: three placeholders that hosts know, and one for unfinished rows.
+// Routines behind rows that compute nothing: three placeholders that hosts know.
 // With no request bit they return the flags byte, which differs from 0 under FF_PROBE.
 
 #include "protocol/forms.h"
@@ -31,16 +31,9 @@ struct Refuse {
     }
 };
 
-Status unbuilt(const Point& at) {
-    return fail(at);
-}
-
 } // namespace
 } // namespace ansatz
 
 ANSATZ_MODEL(SucceedPlaceholder, ansatz::Succeed)
 ANSATZ_MODEL(QueryPlaceholder, ansatz::Query)
 ANSATZ_MODEL(RefusePlaceholder, ansatz::Refuse)
-
-// A model that is not built yet: every request for a value fails with MISSING_VALUE.
-ANSATZ_MODEL(Unbuilt, ansatz::FormE<ansatz::unbuilt, ansatz::unbuilt, ansatz::Answers{.query = 0}>)

@@ -104,6 +104,9 @@ inline double exp(double t) {
 inline double log(double t) {
     return detail::checked<std::log>(t);
 }
+inline double log1p(double t) {
+    return detail::checked<std::log1p>(t);
+}
 inline double sqrt(double t) {
     return detail::checked<std::sqrt>(t);
 }

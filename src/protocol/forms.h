@@ -45,7 +45,7 @@ inline Status answer_idle(Idle idle, unsigned flags) {
 
 template <Path value, Path derivatives, Answers answers = Answers{}> struct FormD {
     static Status serve(unsigned flags, const Point& at) {
-        if (answers.probe && flags & FF_PROBE) return answer_probe(at);
+        if (answers.probe && (flags & FF_PROBE)) return answer_probe(at);
         if (flags & FF_QUERY_DERIV) return answers.query;
         if (flags & FF_VALUE) {
             const Status status = value(at);
@@ -60,7 +60,7 @@ template <Path value, Path derivatives, Answers answers = Answers{}> struct Form
 
 template <Path value, Path derivatives, Answers answers = Answers{}> struct FormE {
     static Status serve(unsigned flags, const Point& at) {
-        if (answers.probe && flags & FF_PROBE) return answer_probe(at);
+        if (answers.probe && (flags & FF_PROBE)) return answer_probe(at);
         if (flags & FF_QUERY_DERIV) return answers.query;
         if (flags & FF_VALUE) return value(at);
         if (flags & FF_DERIV) return derivatives(at);

@@ -24,12 +24,12 @@ bool same_bits(double a, double b) {
     return std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b);
 }
 
-/// A NaN that no computation makes. A parameter read beyond those supplied poisons the result with it.
-double canary() {
-    return std::bit_cast<double>(std::uint64_t{0x7ffdeadbeefcafe0});
-}
-
 namespace {
+
+/// NaNs that no computation makes: what outputs hold before a call, and what stands behind the inputs, so that
+/// a parameter read beyond those supplied poisons the result.
+const double canary = std::bit_cast<double>(std::uint64_t{0x7ffdeadbeefcafe0});
+const double poison = std::bit_cast<double>(std::uint64_t{0x7ffabad0bad0bad0});
 
 /// Notes which slots of an array differ from what they held.
 void note_changes(Outcome& outcome, const char* array, const std::array<double, slots>& now,
@@ -45,7 +45,10 @@ void note_changes(Outcome& outcome, const char* array, const std::array<double, 
 Outcome call(const Model& model, const Request& request) {
     std::array<double, slots> P, x;
     Outcome outcome;
-    for (auto* array : {&P, &x, &outcome.y, &outcome.dyda}) array->fill(canary());
+    P.fill(poison);
+    x.fill(poison);
+    outcome.y.fill(canary);
+    outcome.dyda.fill(canary);
     std::copy(request.P.begin(), request.P.end(), P.begin() + 1);
     std::copy(request.x.begin(), request.x.end(), x.begin() + 1);
     const auto P_before = P, x_before = x, untouched = outcome.y;
@@ -61,7 +64,7 @@ Outcome call(const Model& model, const Request& request) {
     note_changes(outcome, "d", outcome.dyda, untouched, 1);
     // Little-endian: the first four bytes at dyda are the low half of dyda[0].
     const auto first = std::bit_cast<std::uint64_t>(outcome.dyda[0]),
-               before = std::bit_cast<std::uint64_t>(canary());
+               before = std::bit_cast<std::uint64_t>(canary);
     if (first != before) {
         const bool half = first >> 32 == before >> 32;
         outcome.written[half ? std::string("d0:").append(std::to_string(first & 0xffffffff)) : "d0"] =

@@ -40,7 +40,4 @@ Outcome call(const Model& model, const Request& request);
 /// Same bits (so NaN equals itself and 0 differs from -0).
 bool same_bits(double a, double b);
 
-/// What the slots hold that a call must not have written.
-double canary();
-
 } // namespace ansatz::test

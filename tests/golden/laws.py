@@ -57,9 +57,10 @@ def draw(count, P, x, seed=0, n=None):
 
 class Row:
     def __init__(self, name, law, form, points, query=None, probe="none", idle="zero", derivatives=None,
-                 derivative_law=None, stated=None, unwritten=(), slack=1):
+                 derivative_law=None, derivative_value=None, stated=None, unwritten=(), slack=1):
         self.name, self.law, self.form, self.points = name, law, form, points
         self.derivative_law = derivative_law
+        self.derivative_value = derivative_value or derivative_law
         self.derivatives = form in "DE" if derivatives is None else derivatives
         self.query = int(self.derivatives) if query is None else query
         self.probe, self.idle = probe, idle
@@ -76,6 +77,7 @@ def row(name, **facts):
     idle         what a call without any request bit returns: "zero", "flags", "one", or "own"
     derivatives  does the derivative path fill dyda? By default yes for D and E
     derivative_law  the law as the derivative path evaluates it, where its constants differ from the value path's
+    derivative_value  the law by which the derivative path computes y, where that departs on purpose
     stated       {slot: formula} where a derivative slot departs from the true derivative on purpose
     unwritten    slots of dyda that the derivative path leaves alone at these points
     slack        factor on the tolerance, with the reason in a comment beside it
@@ -132,8 +134,8 @@ def lines(row):
         yield from values("y", row.law)
         if not row.derivatives:
             continue
-        if row.derivative_law:
-            yield from values("v", row.derivative_law)
+        if row.derivative_value:
+            yield from values("v", row.derivative_value)
         for k in range(1, len(params) + 1):
             if k in row.unwritten:
                 continue

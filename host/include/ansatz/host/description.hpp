@@ -34,9 +34,9 @@ struct Description {
     bool components = true;                ///< with a block: y[2], y[3], ... are the blocks' contributions
     bool implicit = false;                 ///< y[1] is a residual, fitted to zero: there is no y column
     int inputs = 0;                        ///< number of x columns where the model reads more than its row says
-    bool differences = false;    ///< the model's own derivatives are missing or not those of its value
-    bool reserved = false;       ///< the name is taken, nothing is computed
-    std::string_view notes = {}; ///< where the model fails, and oddities
+    bool reserved = false;                 ///< the name is taken, nothing is computed
+    bool true_derivatives = true;          ///< if not, the host takes differences in place of the model's own
+    std::string_view notes = {};           ///< where the model fails, and oddities
 };
 
 struct Family {

@@ -1,0 +1,26 @@
+// Gumbel: the Gumbel (extreme value) distribution function of smallest values.
+//
+//   y = 1 - e^(-e^((x - P1) / P2))
+//
+//   P1 location, where y = 1 - 1/e; P2 scale (same unit as x; negative: the curve falls).
+//
+//   Fails for P2 == 0 and where the inner exponential overflows, from about 709 scales above the location on.
+//   No derivatives; a derivative request, and a call that requests nothing, return 1.
+
+#include "protocol/forms.h"
+
+namespace ansatz::gumbel {
+namespace {
+
+Status value(const Point& at) {
+    const auto [n, P, x, y, dyda] = at;
+    if (P[2] == 0) return fail(at);
+    y[1] = 1 - safe_exp(-safe_exp((x[1] - P[1]) / P[2]));
+    return math_error() ? fail(at) : success;
+}
+
+} // namespace
+} // namespace ansatz::gumbel
+
+ANSATZ_MODEL(Gumbel,
+             ansatz::FormV<ansatz::gumbel::value, ansatz::Answers{.query = 0, .idle = ansatz::Idle::one}>)

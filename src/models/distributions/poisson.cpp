@@ -1,0 +1,35 @@
+// Poisson: the Poisson distribution, continued to a real number of events, on an offset.
+//
+//   y = P1 + P2^x / Gamma(x + 1) e^(-P2)
+//
+//   x number of events, not necessarily whole; P1 offset, P2 mean number of events. y[2] is the probability
+//   alone, without the offset.
+//
+//   Fails on a range or domain error: x above 170, where the factorial overflows; x = -1, -2, ..., where Gamma
+//   has its poles; a negative mean with a broken x. Below x = -1 the absolute value of Gamma is taken. Needs
+//   nParams >= 2: with fewer the call returns 1 and y = P1, without a marker. No derivatives.
+
+#include "protocol/forms.h"
+#include "special/log_gamma.h"
+
+namespace ansatz::poisson {
+namespace {
+
+Status value(const Point& at) {
+    const auto [n, P, x, y, dyda] = at;
+    y[1] = P[1];
+    if (n - 1 <= 0) return failure;
+    const double lg = log_gamma(x[1] + 1.0);
+    const double q = safe_pow(P[2], x[1]) / safe_exp(lg);
+    const double probability = q * safe_exp(-P[2]);
+    if (math_error()) return fail(at);
+    y[2] = probability;
+    y[1] += probability;
+    return success;
+}
+
+} // namespace
+} // namespace ansatz::poisson
+
+ANSATZ_MODEL(Poisson,
+             ansatz::FormV<ansatz::poisson::value, ansatz::Answers{.query = 0, .idle = ansatz::Idle::one}>)

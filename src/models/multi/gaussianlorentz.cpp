@@ -1,0 +1,32 @@
+// GaussianLorentz: a Gaussian and a Lorentzian peak with a common offset and centre, two dependent variables.
+//
+//   y[1] = P1 + P3 / (P5 sqrt(pi/2)) e^(-2 ((x - P2)/P5)^2)
+//   y[2] = P1 + (2 P4 / pi) P6 / (4 (x - P2)^2 + P6^2)
+//
+//   P1 offset, P2 centre, P3 area of the Gaussian, P4 area of the Lorentzian, P5 width of the Gaussian (twice
+//   its standard deviation), P6 width of the Lorentzian (full width at half maximum).
+//
+//   Widths are not tested: 0 makes an output infinite or not a number, with status 0, and a negative one turns
+//   its peak upside down. A failure, which only an error indicator left set by the caller can cause, marks both
+//   outputs. No derivatives; a derivative request alone returns 0 and writes nothing.
+
+#include "models/multi/missing_fill.h"
+
+namespace ansatz::gaussianlorentz {
+namespace {
+
+constexpr double half_pi = 1.5707963267948966, pi = 3.141592653589793;
+
+Status value(const Point& at) {
+    const auto [n, P, x, y, dyda] = at;
+    const double d = x[1] - P[2], u = d / P[5];
+    y[1] = P[1] + P[3] / (sqrt(half_pi) * P[5]) * safe_exp(-2 * (u * u));
+    if (math_error()) return missing_fill(at, 2);
+    y[2] = P[1] + 2 * P[4] / pi * P[6] / (4 * (d * d) + P[6] * P[6]);
+    return math_error() ? missing_fill(at, 2) : success;
+}
+
+} // namespace
+} // namespace ansatz::gaussianlorentz
+
+ANSATZ_MODEL(GaussianLorentz, ansatz::FormW<ansatz::gaussianlorentz::value>)

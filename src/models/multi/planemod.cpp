@@ -1,0 +1,28 @@
+// PlaneMod: a plane in normal form, implicit; y is the residual, 0 for points on the plane.
+//
+//   y = cos(P1) x3 + sin(P1) cos(P2) x1 + sin(P1) sin(P2) x2 + P3
+//
+//   P1 polar angle of the normal, P2 its azimuth (radians), P3 distance term: y is the signed distance from the
+//   plane.
+//
+//   The status is always 0: an infinite angle, or an error indicator left set by the caller, shows as
+//   MISSING_VALUE in y alone, and the indicator stays set. No derivatives; a derivative request alone writes
+//   nothing.
+
+#include "models/multi/residual.h"
+
+namespace ansatz::planemod {
+namespace {
+
+Status value(const Point& at) {
+    const auto [n, P, x, y, dyda] = at;
+    const double s = sin(P[1]);
+    const double a = sin(P[2]) * s * x[2];
+    const double b = cos(P[2]) * s * x[1] + a;
+    return residual(at, cos(P[1]) * x[3] + b + P[3]);
+}
+
+} // namespace
+} // namespace ansatz::planemod
+
+ANSATZ_MODEL(PlaneMod, ansatz::FormW<ansatz::planemod::value>)

@@ -1,0 +1,62 @@
+// Gaussian: a common offset and any number of Gaussian peaks, each given by its area and its width at half
+// maximum.
+//
+//   y = P1 + sum over the peaks of  A / (w sqrt(pi / (4 ln 2))) e^(-4 ln 2 ((x - c)/w)^2)
+//
+//   Four parameters per peak: for peak 1 the common offset P1, for later peaks an idle slot; then centre c,
+//   area A, full width at half maximum w. The number of peaks is nevertheless (nParams - 1) / 3: with nParams =
+//   7 there are two peaks, and P8 is read. Supply four parameters for each peak that this count gives. y[k+1]
+//   is peak k alone, without the offset.
+//
+//   The value is computed by every call, also by one that requests nothing. Fails for a width of 0, with y[1]
+//   alone marked; a negative width turns the peak upside down. A peak of area 0 is skipped: nothing of it is
+//   written. The derivative by an idle slot is reported as 1.
+
+#include "protocol/forms.h"
+
+namespace ansatz::gaussian {
+namespace {
+
+constexpr double ln_2 = 0.69314718055994;
+constexpr double four_ln_2 = 2.77258872223978;
+constexpr double unit_area = 1.06446701943122; // sqrt(pi / (4 ln 2)), the area of a peak of width and height 1
+
+Status compute(const Point& at, bool derivatives) {
+    const auto [n, P, x, y, dyda] = at;
+    double sum = P[1];
+    const int peaks = (n - 1) / 3;
+    for (int k = 1; k <= peaks; ++k) {
+        const int first = 4 * k - 3, centre = 4 * k - 2, area = 4 * k - 1, width = 4 * k;
+        const double c = P[centre], A = P[area], w = P[width];
+        if (A == 0) continue;
+        if (w == 0) return fail(at);
+        const double u = 2 * (x[1] - c) / w;
+        const double s = u * u * ln_2;
+        const double g = clamped_exp(-s) / (w * unit_area);
+        if (math_error()) return fail(at); // the exponential is the peak's only library call
+        const double peak = A * g;
+        y[k + 1] = peak;
+        sum += peak;
+        if (derivatives) {
+            dyda[first] = 1;
+            dyda[area] = g;
+            dyda[width] = (2 * s - 1) * A * g / w;
+            dyda[centre] = A * g * u * four_ln_2 / w;
+        }
+    }
+    y[1] = sum;
+    return success;
+}
+
+struct Form {
+    static Status serve(unsigned flags, const Point& at) {
+        if (flags & FF_PROBE) return answer_probe(at);
+        if (flags & FF_QUERY_DERIV) return 1;
+        return compute(at, flags & FF_DERIV);
+    }
+};
+
+} // namespace
+} // namespace ansatz::gaussian
+
+ANSATZ_MODEL(Gaussian, ansatz::gaussian::Form)

@@ -1,0 +1,90 @@
+// PearsonVII: one symmetric peak between a Lorentzian (m = 1) and a Gaussian (m to infinity), given by its
+// area.
+//
+//   y = P1 + P3 2 s g / (P4 sqrt(pi)) q^-m,   q = 1 + 4 (a - 1) u^2,  u = (x - P2) / P4
+//       a = 2^(1/m),  s = sqrt(a - 1),  g = Gamma(m) / Gamma(m - 1/2)
+//
+//   P1 offset, P2 centre, P3 area, P4 full width at half maximum, P5 = m shape.
+//
+//   Fails for P4 == 0, for m <= 0.5 and on an overflow, always with y[1] alone marked. A negative width is
+//   accepted and turns the peak upside down. The gamma functions are good to 2e-10 and overflow for m above
+//   171; the derivatives do not test for that and report what the arithmetic yields, with the error indicator
+//   left set.
+//
+//   The query is answered 0, but derivatives are computed on request. The one by the shape is no
+//   derivative: two of its terms are added that should be factors, and constants are short. A fit that adjusts
+//   the shape does better with numerical derivatives. FF_PROBE is answered with a code of the shape.
+
+#include "protocol/forms.h"
+#include "special/gamma.h"
+
+namespace ansatz::pearson_vii {
+namespace {
+
+constexpr double sqrt_pi = 1.77245385090551;
+constexpr double ln_2 = 0.693147;
+constexpr double four_ln_2 = 2.77259;
+
+Status value(const Point& at) {
+    const auto [n, P, x, y, dyda] = at;
+    const double w = P[4], m = P[5];
+    if (w == 0 || m <= 0.5) return fail(at);
+    const double a = safe_pow(2, 1 / m);
+    if (math_error()) return fail(at);
+    const double g = gamma_fn(m) / gamma_fn(m - 0.5);
+    const double s = sqrt(a - 1);
+    const double height = 2 * P[3] * s * g / (w * sqrt_pi);
+    if (math_error()) return fail(at);
+    const double u = (x[1] - P[2]) / w;
+    const double q = 4 * (a - 1) * (u * u) + 1;
+    const double p = safe_pow(q, -m);
+    if (math_error()) return fail(at);
+    y[1] = P[1] + p * height;
+    return success;
+}
+
+Status derivatives(const Point& at) {
+    const auto [n, P, x, y, dyda] = at;
+    const double A = P[3], w = P[4], m = P[5];
+    if (w == 0 || m <= 0.5) return fail(at);
+    const double a = safe_pow(2, 1 / m);
+    if (math_error()) return fail(at);
+    const double u = (x[1] - P[2]) / w;
+    const double q = 4 * (a - 1) * (u * u) + 1;
+    const double p = safe_pow(q, -m);
+    if (math_error()) return fail(at);
+
+    const double s = sqrt(a - 1);
+    const double Gm = gamma_fn(m), Gh = gamma_fn(m - 0.5);
+    const double g = Gm / Gh;
+    const double by_centre = 16 * (s * s * s) * A * m * (p / q) * u * g / (w * sqrt_pi * w);
+    const double by_area = 2 * s * p * g / (w * sqrt_pi);
+    const double N = w * sqrt_pi * Gh;
+    dyda[1] = 1;
+    dyda[2] = by_centre;
+    dyda[3] = by_area;
+    dyda[4] = by_centre * u - A / w * by_area;
+    dyda[5] = 2 * s * A * p * gamma_prime(m) / N + 2 * s * A * p / N -
+              a * ln_2 * A * p * g / (m * s * m * sqrt_pi * w) +
+              (a * four_ln_2 * (u * u) / (m * q) - log(q)) * Gm - 2 * s * A * p * g * gamma_prime(m - 0.5) / N;
+    y[1] = A * by_area + P[1];
+    return success;
+}
+
+/// One bit for each threshold that the shape exceeds.
+std::int32_t code(double m) {
+    return (m > 0.5) | (m > 1) << 1 | (m > 1.5) << 2 | (m > 2) << 3 | (m > 2.5) << 4;
+}
+
+/// Form D, but for the probe.
+struct Form {
+    static Status serve(unsigned flags, const Point& at) {
+        if (flags & FF_PROBE) return answer_probe(at, code(at.P[5]), PROBE_MASK_ANSWER);
+        return FormD<value, derivatives, Answers{.query = 0}>::serve(flags, at);
+    }
+};
+
+} // namespace
+} // namespace ansatz::pearson_vii
+
+ANSATZ_MODEL(PearsonVII, ansatz::pearson_vii::Form)

@@ -1,0 +1,61 @@
+// Exponential2D: a common offset and any number of terms, each decaying along both variables.
+//
+//   z = P1 + sum over the terms of  A e^(-x1/t1) e^(-x2/t2)
+//
+//   P1 offset; then per term amplitude A at the origin, decay lengths t1 (same unit as x1; negative: growth)
+//   and t2. The number of terms is nParams / 3, counted without regard to the offset: the last parameter read
+//   is P(3 m + 1). y[k+1] is term k alone, without the offset.
+//
+//   The exponentials are limited: one beyond e^300 counts as zero. Decay lengths are not tested. A failure,
+//   which only an error indicator left set by the caller can cause, writes MISSING_VALUE into x[2] and marks no
+//   derivative. Without a term the derivative by P1 keeps what it held.
+
+#include "protocol/forms.h"
+
+namespace ansatz::exponential2d {
+namespace {
+
+Status value(const Point& at) {
+    const auto [n, P, x, y, dyda] = at;
+    y[1] = P[1];
+    const int terms = n / 3;
+    for (int k = 1; k <= terms; ++k) {
+        const double* p = P + 1 + 3 * (k - 1);
+        const double e1 = clamped_exp(-(x[1] / p[2]));
+        if (math_error()) return fail_surface(at);
+        const double e2 = clamped_exp(-(x[2] / p[3]));
+        if (math_error()) return fail_surface(at);
+        const double term = p[1] * e1 * e2;
+        y[k + 1] = term;
+        y[1] += term;
+    }
+    return success;
+}
+
+Status derivatives(const Point& at) {
+    const auto [n, P, x, y, dyda] = at;
+    y[1] = P[1];
+    const int terms = n / 3;
+    for (int k = 1; k <= terms; ++k) {
+        const double* p = P + 1 + 3 * (k - 1);
+        double* d = dyda + 1 + 3 * (k - 1);
+        const double A = p[1], t1 = p[2], t2 = p[3];
+        const double e1 = clamped_exp(-(x[1] / t1));
+        if (math_error()) return fail_surface(at);
+        const double e2 = clamped_exp(-(x[2] / t2));
+        if (math_error()) return fail_surface(at);
+        const double term = A * e1 * e2;
+        dyda[1] = 1;
+        d[1] = e1 * e2;
+        d[2] = term * x[1] / (t1 * t1);
+        d[3] = term * x[2] / (t2 * t2);
+        y[k + 1] = term;
+        y[1] += term;
+    }
+    return success;
+}
+
+} // namespace
+} // namespace ansatz::exponential2d
+
+ANSATZ_MODEL(Exponential2D, ansatz::FormD<ansatz::exponential2d::value, ansatz::exponential2d::derivatives>)

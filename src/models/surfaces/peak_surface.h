@@ -1,0 +1,79 @@
+// The frame of the peak surfaces with a width per axis: a common offset and any number of peaks over the plane.
+//
+//   P1 offset; then per peak a block that begins with amplitude A, centre xc and width wx on x1, centre yc and
+//   width wy on x2. The number of peaks is (nParams - 1) / 5, or / 6 for a shape whose blocks are six apart.
+//   y[i+1] is peak i alone, without the offset.
+//
+//   A failure writes MISSING_VALUE into x[2] and leaves y[1] and the components as they stand. The call fails
+//   for nParams < 1, for a width of 0 and on a range or domain error. A negative width is accepted for the
+//   value, which it does not change, and fails for the derivatives; these look at range errors only. A peak of
+//   amplitude 0 is skipped, whatever its widths: its component keeps what it held, its derivatives are 0.
+#pragma once
+
+#include "protocol/forms.h"
+
+namespace ansatz::peak_surface {
+
+/// One peak's block of parameters beside the point. A shape derives from it, computes what takes the library
+/// or a division when it is made, and combines that in component() and in partials(d), with d[1] the derivative
+/// by A. It states the distance of its blocks (stride) and how many derivative slots a peak fills (slots) and
+/// loses on a failure (marked).
+struct Block {
+    const double* p;
+    double x1, x2;
+    double A = p[1], xc = p[2], wx = p[3], yc = p[4], wy = p[5];
+};
+
+/// The derivative by a centre, from the common factor s; exactly 0 at the centre.
+inline double by_centre(double s, double x, double centre) {
+    return x == centre ? 0 : s / (x - centre);
+}
+
+template <class Shape> Status value(const Point& at) {
+    const auto [n, P, x, y, dyda] = at;
+    if (n < 1) return fail_surface(at);
+    y[1] = P[1];
+    const int peaks = (n - 1) / Shape::stride;
+    for (int i = 1; i <= peaks; ++i) {
+        const double* p = P + 1 + (i - 1) * Shape::stride;
+        if (p[1] == 0) continue;
+        if (p[3] == 0 || p[5] == 0) return fail_surface(at);
+        const double peak = Shape{{p, x[1], x[2]}}.component();
+        if (math_error()) return fail_surface(at);
+        y[i + 1] = peak;
+        y[1] += peak;
+    }
+    return success;
+}
+
+template <class Shape> Status derivatives(const Point& at) {
+    const auto [n, P, x, y, dyda] = at;
+    if (n < 1) return fail_surface(at);
+    dyda[1] = 1;
+    y[1] = P[1];
+    const int peaks = (n - 1) / Shape::stride;
+    for (int i = 1; i <= peaks; ++i) {
+        const double* p = P + 1 + (i - 1) * Shape::stride;
+        double* d = dyda + 1 + (i - 1) * Shape::stride;
+        if (p[1] == 0) {
+            for (int k = 1; k <= Shape::slots; ++k) d[k] = 0;
+            continue;
+        }
+        const auto fail_peak = [&] {
+            for (int k = 1; k <= Shape::marked; ++k) d[k] = MISSING_VALUE;
+            return fail_surface(at);
+        };
+        if (p[3] <= 0 || p[5] <= 0) return fail_peak();
+        const Shape shape{{p, x[1], x[2]}};
+        if (range_error()) return fail_peak();
+        shape.partials(d);
+        const double peak = shape.component();
+        y[i + 1] = peak;
+        y[1] += peak;
+    }
+    return success;
+}
+
+template <class Shape> using Form = FormD<value<Shape>, derivatives<Shape>>;
+
+} // namespace ansatz::peak_surface

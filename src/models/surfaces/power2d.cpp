@@ -1,0 +1,62 @@
+// Power2D: a common offset and any number of terms, each of two powers and their product.
+//
+//   z = P1 + sum over the terms of  a X + c Y + d X Y,   X = x1^p, Y = x2^q
+//
+//   P1 offset; then per term a, p, c, q, d in this order. The number of terms is nParams / 5, counted without
+//   regard to the offset: the last parameter read is P(5 m + 1). y[k+1] is term k alone, without the offset.
+//
+//   Never fails: a negative x with a broken power gives not a number, 0 to a negative power infinity, with
+//   status 0 and the error indicator left set. The query says that there are no derivatives, but FF_DERIV
+//   computes them all the same. The derivative by p takes ln|x1|, so that x1 < 0 with a whole power stays
+//   finite, and is 0 at x1 == 0; the derivative by q exists for x2 > 0 only.
+
+#include "protocol/forms.h"
+
+namespace ansatz::power2d {
+namespace {
+
+Status value(const Point& at) {
+    const auto [n, P, x, y, dyda] = at;
+    double sum = P[1];
+    const int terms = n / 5;
+    for (int k = 1; k <= terms; ++k) {
+        const double* p = P + 1 + 5 * (k - 1);
+        const double X = safe_pow(x[1], p[2]), Y = safe_pow(x[2], p[4]);
+        const double term = p[1] * X + p[3] * Y + Y * (X * p[5]);
+        y[k + 1] = term;
+        sum += term;
+    }
+    y[1] = sum;
+    return success;
+}
+
+Status derivatives(const Point& at) {
+    const auto [n, P, x, y, dyda] = at;
+    const double x1 = x[1], x2 = x[2];
+    dyda[1] = 1;
+    double sum = P[1];
+    const int terms = n / 5;
+    for (int k = 1; k <= terms; ++k) {
+        const double* p = P + 1 + 5 * (k - 1);
+        double* s = dyda + 1 + 5 * (k - 1);
+        const double a = p[1], c = p[3], d = p[5];
+        const double X = safe_pow(x1, p[2]), Y = safe_pow(x2, p[4]);
+        const double aX = a * X, cY = c * Y, dXY = Y * (X * d);
+        s[1] = X;
+        s[2] = x1 == 0 ? 0 : (aX + dXY) * log(std::fabs(x1));
+        s[3] = Y;
+        s[4] = (cY + dXY) * log(x2);
+        s[5] = X * Y;
+        const double term = aX + cY + dXY;
+        y[k + 1] = term;
+        sum += term;
+    }
+    y[1] = sum;
+    return success;
+}
+
+} // namespace
+} // namespace ansatz::power2d
+
+ANSATZ_MODEL(Power2D,
+             ansatz::FormD<ansatz::power2d::value, ansatz::power2d::derivatives, ansatz::Answers{.query = 0}>)

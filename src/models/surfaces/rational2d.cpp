@@ -1,0 +1,77 @@
+// Rational2D: a ratio of polynomials of third order, any number of blocks added up.
+//
+//   z = sum over the blocks of  N/D,
+//   N = a + b x1 + c x2 + d x2^2 + e x2^3, D = 1 + f x1 + g x1^2 + h x1^3 + j x2 + k x2^2
+//
+//   Ten parameters per block, a .. k in this order; no common offset. The number of blocks is nParams / 10.
+//   y[i+1] is block i alone. Powers of x1 stand below only, the third power of x2 above only.
+//
+//   Fails where a denominator is 0, with MISSING_VALUE in x[2]; y[1] and the components keep what was summed.
+//   The query says that there are no derivatives, but FF_DERIV computes them all the same. Those by j and k
+//   divide by x1: at x1 == 0 they are not numbers, with status 0. Powers that overflow leave the
+//   error indicator set.
+
+#include "protocol/forms.h"
+
+namespace ansatz::rational2d {
+namespace {
+
+double numerator(const double* p, const double* x, double x2_cubed) {
+    return p[1] + p[2] * x[1] + p[3] * x[2] + p[4] * (x[2] * x[2]) + p[5] * x2_cubed;
+}
+
+double denominator(const double* p, const double* x) {
+    return 1 + p[6] * x[1] + p[7] * (x[1] * x[1]) + p[8] * safe_pow(x[1], 3) + p[9] * x[2] +
+           p[10] * (x[2] * x[2]);
+}
+
+Status value(const Point& at) {
+    const auto [n, P, x, y, dyda] = at;
+    y[1] = 0;
+    const int blocks = n / 10;
+    for (int k = 1; k <= blocks; ++k) {
+        const double* p = P + 10 * (k - 1);
+        const double D = denominator(p, x);
+        if (D == 0) return fail_surface(at);
+        const double block = numerator(p, x, safe_pow(x[2], 3)) / D;
+        y[k + 1] = block;
+        y[1] += block;
+    }
+    return success;
+}
+
+Status derivatives(const Point& at) {
+    const auto [n, P, x, y, dyda] = at;
+    const double x1 = x[1], x2 = x[2];
+    y[1] = 0;
+    const int blocks = n / 10;
+    for (int k = 1; k <= blocks; ++k) {
+        const double* p = P + 10 * (k - 1);
+        double* d = dyda + 10 * (k - 1);
+        const double D = denominator(p, x);
+        if (D == 0) return fail_surface(at);
+        const double r = 1 / D, x2_cubed = safe_pow(x2, 3);
+        const double g = -(safe_pow(r, 2.0) * x1 * numerator(p, x, x2_cubed));
+        d[1] = r;
+        d[2] = x1 * r;
+        d[3] = x2 * r;
+        d[4] = x2 * x2 * r;
+        d[5] = x2_cubed * r;
+        d[6] = g;
+        d[7] = g * x1;
+        d[8] = g * x1 * x1;
+        d[9] = g * x2 / x1;
+        d[10] = x2 * d[9];
+        const double block = p[1] * d[1] + p[2] * d[2] + p[3] * d[3] + p[4] * d[4] + p[5] * d[5];
+        y[k + 1] = block;
+        y[1] += block;
+    }
+    return success;
+}
+
+} // namespace
+} // namespace ansatz::rational2d
+
+ANSATZ_MODEL(
+    Rational2D,
+    ansatz::FormD<ansatz::rational2d::value, ansatz::rational2d::derivatives, ansatz::Answers{.query = 0}>)
