@@ -5,8 +5,8 @@
 namespace ansatz::host::descriptions {
 
 Family handbook_one_parameter() {
-    constexpr ParameterText reference = {"X", "reference x, your choice", Role::reference};
-    constexpr ParameterText response = {"Y", "y expected at X"};
+    constexpr ParameterText reference = {"x1", "reference x, your choice", Role::reference};
+    constexpr ParameterText response = {"y1", "y expected at x1"};
     constexpr ParameterText rate = {"k", "rate, 1/(unit of x)"};
     constexpr ParameterText base = {"r", "base: factor per unit of x, above 0"};
     return {
@@ -17,12 +17,13 @@ Family handbook_one_parameter() {
              .parameters = {{"a", "shift: x where the logarithm starts"}},
              .notes = "Fails for x <= a: bound a from above by the least x of the data."},
             {.name = "LogarithmEVP",
-             .formula = "y = ln(x - X - exp(b))",
-             .parameters = {reference, {"b", "logarithm of the distance from X to where the curve starts"}},
+             .formula = "y = ln(x - x1 - exp(b))",
+             .parameters = {reference, {"b", "logarithm of the distance from x1 to where the curve starts"}},
              .true_derivatives = false,
-             .notes = "Fails for x <= X + exp(b), also at X itself, so choose X left of the data. For b beyond "
-                      "709 y is b. The model's own derivative by b has the wrong sign, so that a fit takes "
-                      "derivatives by differences."},
+             .notes =
+                 "Fails for x <= x1 + exp(b), also at x1 itself, so choose x1 left of the data. For b beyond "
+                 "709 y is b. The model's own derivative by b has the wrong sign, so that a fit takes "
+                 "derivatives by differences."},
             {.name = "Reciprocal0",
              .formula = "y = 1/(1 + a x)",
              .parameters = {{"a", "slope of 1/y"}},
@@ -30,15 +31,15 @@ Family handbook_one_parameter() {
              .notes = "Fails only where 1 + a x is exactly 0. The model's own derivative is not that of y, so "
                       "that a fit takes derivatives by differences."},
             {.name = "Reciprocal0EVP",
-             .formula = "y = 1/(1 + (1/Y - 1) x/X)",
+             .formula = "y = 1/(1 + (1/y1 - 1) x/x1)",
              .parameters = {reference, response},
-             .notes = "Fails for X = 0, Y = 0 and where the denominator is exactly 0."},
+             .notes = "Fails for x1 = 0, y1 = 0 and where the denominator is exactly 0."},
             {.name = "Exp1P1",
              .formula = "y = exp(x - a)",
              .parameters = {{"a", "shift: x where y is 1"}},
              .notes = "Fails when the exponential overflows."},
             {.name = "ExponentEVP",
-             .formula = "y = Y exp(x - X)",
+             .formula = "y = y1 exp(x - x1)",
              .parameters = {reference, response},
              .notes = "Fails when the exponential overflows."},
             {.name = "Power",
@@ -46,15 +47,15 @@ Family handbook_one_parameter() {
              .parameters = {{"a", "exponent"}},
              .notes = "For x <= 0 there is a value where the power exists, but no derivative, and so no fit."},
             {.name = "PowerEVP",
-             .formula = "y = Y^(ln(x)/ln(X))",
+             .formula = "y = y1^(ln(x)/ln(x1))",
              .parameters = {reference, response},
-             .notes = "Fails for x <= 0, X <= 0 and Y <= 0. Choose X other than 1, where every curve is 1."},
+             .notes = "Fails for x <= 0, x1 <= 0 and y1 <= 0. Choose x1 other than 1, where every curve is 1."},
             {.name = "Reciprocal1",
              .formula = "y = 1/(a + x)",
              .parameters = {{"a", "shift: 1/y at x = 0"}},
              .notes = "Fails only for x = -a."},
             {.name = "Reciprocal1EVP",
-             .formula = "y = Y/(1 + (x - X) Y)",
+             .formula = "y = y1/(1 + (x - x1) y1)",
              .parameters = {reference, response},
              .notes = "Fails only where the denominator is exactly 0."},
             {.name = "Pareto",
@@ -62,9 +63,9 @@ Family handbook_one_parameter() {
              .parameters = {{"a", "exponent"}},
              .notes = "Fails for x <= 0. Every curve is 0 at x = 1."},
             {.name = "ParetoEVP",
-             .formula = "y = 1 - (1 - Y)^(ln(x)/ln(X))",
+             .formula = "y = 1 - (1 - y1)^(ln(x)/ln(x1))",
              .parameters = {reference, response},
-             .notes = "Fails for x <= 0, X <= 0 and Y >= 1. Choose X other than 1, where every curve is 0."},
+             .notes = "Fails for x <= 0, x1 <= 0 and y1 >= 1. Choose x1 other than 1, where every curve is 0."},
             {.name = "Exp1P3",
              .formula = "y = k exp(-k x)",
              .parameters = {rate},
@@ -82,9 +83,9 @@ Family handbook_one_parameter() {
              .parameters = {base},
              .notes = "Fails for r <= 0. Exp1P2 with k = -ln(r)."},
             {.name = "Exponent2EVP",
-             .formula = "y = Y^(x/X)",
+             .formula = "y = y1^(x/x1)",
              .parameters = {reference, response},
-             .notes = "Fails for X = 0 and Y <= 0."},
+             .notes = "Fails for x1 = 0 and y1 <= 0."},
             {.name = "Exp1P4",
              .formula = "y = 1 - exp(-k x)",
              .parameters = {rate},
@@ -94,9 +95,9 @@ Family handbook_one_parameter() {
              .parameters = {base},
              .notes = "Fails for r <= 0. Exp1P4 with k = -ln(r)."},
             {.name = "Exponent3EVP",
-             .formula = "y = 1 - (1 - Y)^(x/X)",
-             .parameters = {reference, {"Y", "y expected at X, below 1"}},
-             .notes = "Fails for Y >= 1. At X = 0 there is a value, 0, and no fit."},
+             .formula = "y = 1 - (1 - y1)^(x/x1)",
+             .parameters = {reference, {"y1", "y expected at x1, below 1"}},
+             .notes = "Fails for y1 >= 1. At x1 = 0 there is a value, 0, and no fit."},
         }};
 }
 
