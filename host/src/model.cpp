@@ -91,7 +91,8 @@ Model::Model(std::string name, FitFunction routine, int independent, int depende
         if (text->block.empty()) default_size_ = static_cast<int>(text->parameters.size());
     }
     double nothing[2] = {};
-    analytic_ = function_(FF_QUERY_DERIV, 0, default_size_, 0, 0, nothing, 0, nothing, nothing, nothing) == 1;
+    analytic_ = (!description() || description()->own_derivatives) &&
+                function_(FF_QUERY_DERIV, 0, default_size_, 0, 0, nothing, 0, nothing, nothing, nothing) == 1;
 }
 
 Model Model::custom(std::string name, FitFunction routine, int independent, int dependent, int parameters,
