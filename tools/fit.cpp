@@ -271,8 +271,12 @@ int fit(const FitCommandOptions& options) {
     }
     std::fflush(stdout);
     if (!options.plot.empty()) {
-        const PlotLabels labels{names(table, columns.x)[0], names(table, columns.y)};
-        plot(model, data, result, deviations, labels, options.plot);
+        plot({model,
+              data,
+              result,
+              deviations,
+              {names(table, columns.x), names(table, columns.y)},
+              options.plot});
     }
     if (result.converged) return done;
     fmt::print(stderr, "ansatz: the fit did not converge: {}\n", result.termination);

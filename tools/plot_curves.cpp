@@ -1,0 +1,157 @@
+// Curves of one x column, one or two of them.
+
+#include "gnuplot.hpp"
+#include "plot.hpp"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace ansatz::tools {
+namespace {
+
+using Eigen::Index;
+using namespace gnuplot;
+
+constexpr const char* peak_colours[] = {"#56b4e9", "#009e73", "#e69f00", "#cc79a7", "#0072b2", "#999999"};
+
+/// One output over one x column: data and curve above, residuals below.
+class CurvePanel {
+public:
+    CurvePanel(const Picture& picture, Index output)
+        : p_(picture), output_(output), input_(p_.data.x.cols() > 1 ? output : 0),
+          several_(p_.data.y.cols() > 1), bars_(p_.deviations.size() > 0) {
+        const auto x = p_.data.x.col(input_);
+        const double margin = x.maxCoeff() > x.minCoeff() ? 0.02 * (x.maxCoeff() - x.minCoeff()) : 0.5;
+        low_ = x.minCoeff() - margin;
+        high_ = x.maxCoeff() + margin;
+        curve_ = curve();
+    }
+
+    std::string script(double left, double right) const {
+        std::string title = fmt::format("Fit of {}", p_.model.name());
+        if (several_) title += fmt::format(", y{}", output_ + 1);
+        const std::vector<std::string> above = layers();
+        const Place upper{left, right, 0.34, 0.93}, lower{left, right, 0.11, 0.30};
+        const double distance = several_ ? 0.062 : 0.1;
+        std::string text = blocks();
+        text +=
+            place(upper) + side_label(label(), upper, distance) +
+            fmt::format("set xrange [{:.17g}:{:.17g}]\nset yrange [*:*]\nset ytics autofreq\nset format x ''\n"
+                        "unset xlabel\nset title {} textcolor rgb '{}'\nset key {}\n"
+                        "unset xzeroaxis\n",
+                        low_, high_, quoted(title), ink, key_corner(above.size())) +
+            draw(above);
+        Eigen::VectorXd sizes = residuals().cwiseAbs();
+        if (bars_) sizes += deviations();
+        text += place(lower) + side_label("residual", lower, distance) +
+                residual_axes(sizes.maxCoeff(), p_.labels.x[static_cast<std::size_t>(input_)]) +
+                draw(residual_layers(name("residuals"), bars_));
+        return text;
+    }
+
+private:
+    const std::string& label() const { return p_.labels.y[static_cast<std::size_t>(output_)]; }
+    std::string name(std::string_view block) const { return fmt::format("{}{}", block, output_ + 1); }
+
+    Eigen::VectorXd residuals() const { return p_.data.y.col(output_) - p_.fit.fitted.col(output_); }
+    Eigen::VectorXd deviations() const {
+        if (!bars_) return Eigen::VectorXd::Zero(p_.data.x.rows());
+        return p_.deviations.col(std::min(output_, p_.deviations.cols() - 1));
+    }
+
+    /// x, the output, then every peak on the common offset.
+    Eigen::MatrixXd curve() const {
+        constexpr Index steps = 1001;
+        Eigen::MatrixXd x = p_.data.x.colwise().mean().replicate(steps, 1); // the other column does not matter
+        x.col(input_) = Eigen::VectorXd::LinSpaced(steps, low_, high_);
+        const host::Evaluation fitted = host::evaluate(p_.model, p_.fit.values(), x);
+        const Index peaks = fitted.components.cols();
+        Eigen::MatrixXd rows(steps, 2 + peaks);
+        rows.leftCols(2) << x.col(input_), fitted.y.col(output_);
+        if (peaks > 0) {
+            const Eigen::VectorXd offset = fitted.y.col(0) - fitted.components.rowwise().sum();
+            rows.rightCols(peaks) = fitted.components.colwise() + offset;
+        }
+        return rows;
+    }
+
+    /// The curve; x, y and deviation of the data; the same of the residuals.
+    std::string blocks() const {
+        Eigen::MatrixXd data(p_.data.x.rows(), 3), left(p_.data.x.rows(), 3);
+        data << p_.data.x.col(input_), p_.data.y.col(output_), deviations();
+        left << p_.data.x.col(input_), residuals(), deviations();
+        return block(name("curve"), curve_) + block(name("data"), data) + block(name("residuals"), left);
+    }
+
+    /// The corner in which a legend of some entries hides the least.
+    std::string_view key_corner(std::size_t entries) const {
+        const auto y = p_.data.y.col(output_);
+        double bottom = y.minCoeff(), top = y.maxCoeff();
+        for (Index i = 0; i < curve_.rows(); ++i) {
+            if (!std::isfinite(curve_(i, 1))) continue;
+            bottom = std::min(bottom, curve_(i, 1)), top = std::max(top, curve_(i, 1));
+        }
+        const double width = 0.38 * (high_ - low_),
+                     depth = (0.04 + 0.07 * static_cast<double>(entries)) * (top - bottom);
+        const auto hidden = [&](bool right, bool above) {
+            const auto inside = [&](double at_x, double at_y) {
+                return (right ? at_x > high_ - width : at_x < low_ + width) &&
+                       (above ? at_y > top - depth : at_y < bottom + depth);
+            };
+            double share = 0; // of the data, and of the curve
+            for (Index i = 0; i < y.size(); ++i) {
+                share += inside(p_.data.x(i, input_), y[i]) / static_cast<double>(y.size());
+            }
+            for (Index i = 0; i < curve_.rows(); ++i) {
+                share += inside(curve_(i, 0), curve_(i, 1)) / static_cast<double>(curve_.rows());
+            }
+            return share;
+        };
+        const std::pair<double, std::string_view> corners[] = {{hidden(true, true), "top right"},
+                                                               {hidden(false, true), "top left"},
+                                                               {hidden(true, false), "bottom right"},
+                                                               {hidden(false, false), "bottom left"}};
+        return std::ranges::min_element(corners, {}, [](const auto& corner) { return corner.first; })->second;
+    }
+
+    std::vector<std::string> layers() const {
+        std::vector<std::string> layers;
+        const int peaks = p_.model.components(static_cast<int>(p_.fit.parameters.size()));
+        for (int k = 0; peaks > 1 && k < peaks; ++k) {
+            layers.push_back(fmt::format(
+                "${} using 1:{} with lines linewidth 1.3 dashtype 2 linecolor rgb '{}' title {}", name("curve"),
+                3 + k, peak_colours[static_cast<std::size_t>(k) % std::size(peak_colours)],
+                quoted(fmt::format("{} {}", p_.model.description()->block_name,
+                                   k + p_.model.description()->first_block))));
+        }
+        layers.push_back(fmt::format("${} using 1:2 with lines linewidth 2.2 linecolor rgb '{}' title {}",
+                                     name("curve"), curve_colour, quoted(p_.model.name())));
+        layers.push_back(fmt::format(
+            "${} using 1:2{} pointtype 7 pointsize 1 linewidth 1 linecolor rgb '{}' title {}", name("data"),
+            bars_ ? ":3 with yerrorbars" : " with points", data_colour, quoted(label())));
+        return layers;
+    }
+
+    const Picture& p_;
+    Index output_, input_;
+    bool several_, bars_;
+    double low_, high_;
+    Eigen::MatrixXd curve_;
+};
+
+} // namespace
+
+void plot_curves(const Picture& picture) {
+    std::string script;
+    if (picture.data.y.cols() == 1) {
+        script = head(picture.file, 900, 660) + "set multiplot\n" + CurvePanel(picture, 0).script(0.125, 0.97);
+    } else {
+        script = head(picture.file, 1440, 660) + "set multiplot\n" +
+                 CurvePanel(picture, 0).script(0.08, 0.485) + CurvePanel(picture, 1).script(0.58, 0.985);
+    }
+    run(script + "unset multiplot\n", picture.file);
+}
+
+} // namespace ansatz::tools
