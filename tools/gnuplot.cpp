@@ -97,6 +97,43 @@ std::string place(const Place& at) {
                        at.left, at.right, at.bottom, at.top);
 }
 
+Window Window::widened(double share) const {
+    const double by1 = share * (high1 - low1), by2 = share * (high2 - low2);
+    return {low1 - by1, high1 + by1, low2 - by2, high2 + by2};
+}
+
+void Window::include(double x, double y) {
+    low1 = std::min(low1, x), high1 = std::max(high1, x);
+    low2 = std::min(low2, y), high2 = std::max(high2, y);
+}
+
+std::string_view key_position(const Window& window, std::size_t entries, const Eigen::MatrixXd& data,
+                              const Eigen::MatrixXd& curve) {
+    const double width = 0.38, height = 0.04 + 0.07 * static_cast<double>(entries);
+    const struct {
+        std::string_view name;
+        double left, bottom; // in fractions of the panel
+    } places[] = {{"top right", 1 - width, 1 - height},
+                  {"top left", 0, 1 - height},
+                  {"bottom right", 1 - width, 0},
+                  {"bottom left", 0, 0},
+                  {"center", (1 - width) / 2, (1 - height) / 2}};
+    const auto hidden = [&](const auto& place) {
+        double shares = 0;
+        for (const Eigen::MatrixXd* marks : {&data, &curve}) {
+            const Eigen::ArrayXd x = (marks->col(0).array() - window.low1) / (window.high1 - window.low1);
+            const Eigen::ArrayXd y = (marks->col(1).array() - window.low2) / (window.high2 - window.low2);
+            const Eigen::Array<bool, Eigen::Dynamic, 1> inside =
+                x > place.left && x < place.left + width && y > place.bottom && y < place.bottom + height;
+            if (inside.size() > 0) {
+                shares += static_cast<double>(inside.count()) / static_cast<double>(inside.size());
+            }
+        }
+        return shares;
+    };
+    return std::ranges::min_element(places, {}, hidden)->name;
+}
+
 std::string side_label(const std::string& text, const Place& at, double distance) {
     return fmt::format("set label 1 {} at screen {}, {} rotate by 90 center\n", quoted(text),
                        at.left - distance, (at.bottom + at.top) / 2);

@@ -37,6 +37,19 @@ struct Place {
 };
 std::string place(const Place& at);
 
+/// What the axes of a panel show.
+struct Window {
+    double low1, high1, low2, high2;
+
+    /// With this share of its width more on every side.
+    Window widened(double share) const;
+    void include(double x, double y);
+};
+
+/// Where in a panel a legend of some entries hides the least of the data and of the curve, given as x, y.
+std::string_view key_position(const Window& window, std::size_t entries, const Eigen::MatrixXd& data,
+                              const Eigen::MatrixXd& curve);
+
 /// The label of a panel's y axis, at a fixed distance from it in fractions of the picture: wide numbers at the
 /// tics must not push it out.
 std::string side_label(const std::string& text, const Place& at, double distance);

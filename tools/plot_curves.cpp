@@ -41,7 +41,7 @@ public:
             fmt::format("set xrange [{:.17g}:{:.17g}]\nset yrange [*:*]\nset ytics autofreq\nset format x ''\n"
                         "unset xlabel\nset title {} textcolor rgb '{}'\nset key {}\n"
                         "unset xzeroaxis\n",
-                        low_, high_, quoted(title), ink, key_corner(above.size())) +
+                        low_, high_, quoted(title), ink, key(above.size())) +
             draw(above);
         Eigen::VectorXd sizes = residuals().cwiseAbs();
         if (bars_) sizes += deviations();
@@ -85,35 +85,14 @@ private:
         return block(name("curve"), curve_) + block(name("data"), data) + block(name("residuals"), left);
     }
 
-    /// The corner in which a legend of some entries hides the least.
-    std::string_view key_corner(std::size_t entries) const {
-        const auto y = p_.data.y.col(output_);
-        double bottom = y.minCoeff(), top = y.maxCoeff();
-        for (Index i = 0; i < curve_.rows(); ++i) {
-            if (!std::isfinite(curve_(i, 1))) continue;
-            bottom = std::min(bottom, curve_(i, 1)), top = std::max(top, curve_(i, 1));
+    std::string_view key(std::size_t entries) const {
+        Eigen::MatrixXd data(p_.data.x.rows(), 2);
+        data << p_.data.x.col(input_), p_.data.y.col(output_);
+        Window window{low_, high_, data.col(1).minCoeff(), data.col(1).maxCoeff()};
+        for (const double y : curve_.col(1)) {
+            if (std::isfinite(y)) window.include(low_, y);
         }
-        const double width = 0.38 * (high_ - low_),
-                     depth = (0.04 + 0.07 * static_cast<double>(entries)) * (top - bottom);
-        const auto hidden = [&](bool right, bool above) {
-            const auto inside = [&](double at_x, double at_y) {
-                return (right ? at_x > high_ - width : at_x < low_ + width) &&
-                       (above ? at_y > top - depth : at_y < bottom + depth);
-            };
-            double share = 0; // of the data, and of the curve
-            for (Index i = 0; i < y.size(); ++i) {
-                share += inside(p_.data.x(i, input_), y[i]) / static_cast<double>(y.size());
-            }
-            for (Index i = 0; i < curve_.rows(); ++i) {
-                share += inside(curve_(i, 0), curve_(i, 1)) / static_cast<double>(curve_.rows());
-            }
-            return share;
-        };
-        const std::pair<double, std::string_view> corners[] = {{hidden(true, true), "top right"},
-                                                               {hidden(false, true), "top left"},
-                                                               {hidden(true, false), "bottom right"},
-                                                               {hidden(false, false), "bottom left"}};
-        return std::ranges::min_element(corners, {}, [](const auto& corner) { return corner.first; })->second;
+        return key_position(window, entries, data, curve_);
     }
 
     std::vector<std::string> layers() const {
