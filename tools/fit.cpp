@@ -125,7 +125,30 @@ std::string symbols(const host::Fit& fit, const std::vector<int>& indices) {
     return fmt::format("{}", fmt::join(list, ", "));
 }
 
-void print_text(const host::Model& model, const host::Fit& fit, const std::string& source) {
+/// A remark where the data of two y columns scatter differently and nothing tells the fit so.
+std::string scatter_remark(const host::Data& data, const host::Fit& fit,
+                           const std::vector<std::string>& columns) {
+    if (data.y.cols() != 2) return "";
+    double scatter[2];
+    for (Eigen::Index d = 0; d < 2; ++d) {
+        const Eigen::VectorXd residuals = data.y.col(d) - fit.fitted.col(d);
+        const bool weighted = data.weights.size() > 0;
+        const Eigen::Index w = weighted ? std::min(d, data.weights.cols() - 1) : 0;
+        scatter[d] =
+            weighted ? residuals.cwiseProduct(data.weights.col(w).cwiseSqrt()).norm() : residuals.norm();
+    }
+    const bool first = scatter[0] > scatter[1];
+    const double low = std::min(scatter[0], scatter[1]), high = std::max(scatter[0], scatter[1]);
+    const bool exact = high <= 1e-9 * data.y.norm();
+    if (exact || !(high > 3 * low)) return "";
+    return fmt::format(
+        "{} scatters {:.0f} times as much as {}, and the fit takes both as equally good: the standard "
+        "errors\nmislead. Give --errors or --weights for each of the two columns.\n\n",
+        columns[first ? 0 : 1], high / low, columns[first ? 1 : 0]);
+}
+
+void print_text(const host::Model& model, const host::Fit& fit, const std::string& source,
+                const std::string& scatter) {
     fmt::print("{}", model.name());
     if (model.description()) fmt::print(":  {}", model.description()->formula);
     fmt::print("\n{} points from {}; {} after {} iterations{}\n\n", fit.points, source, fit.termination,
@@ -148,6 +171,8 @@ void print_text(const host::Model& model, const host::Fit& fit, const std::strin
         fmt::print("No standard errors: the covariance is singular, the data do not determine {}.\n\n",
                    symbols(fit, fit.undetermined));
     }
+
+    fmt::print("{}", scatter);
 
     const auto number = [](std::optional<double> value, int digits) {
         return value ? fmt::format("{:.{}g}", *value, digits) : std::string("-");
@@ -267,7 +292,7 @@ int fit(const FitCommandOptions& options) {
     if (options.json) {
         fmt::print("{}\n", fit_json(model, table, columns, start, result, source).dump(2));
     } else {
-        print_text(model, result, source);
+        print_text(model, result, source, scatter_remark(data, result, names(table, columns.y)));
     }
     std::fflush(stdout);
     if (!options.plot.empty()) {

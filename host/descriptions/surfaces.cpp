@@ -43,8 +43,9 @@ std::vector<Description> peak_surfaces() {
                                                    {"yc", "centre on x2"},
                                                    {"wy", "standard deviation along the turned second axis"},
                                                    {"t", "angle of the axes in radians, from x1 towards x2"}}),
-         .notes = "One peak. The angle is not determined for a round peak, and a turn by pi/2 exchanges the "
-                  "widths. Fails for a width of 0; a fit fails for negative widths: bound them from below."},
+         .notes = "One peak. A turn by pi changes nothing, one by pi/2 exchanges the widths, and a round peak "
+                  "has no "
+                  "angle. Fails for a width of 0; a fit fails for negative widths: bound them from below."},
         {.name = "Lorentz2D",
          .formula = "y = y0 + sum A/((1 + ((x1 - xc)/wx)^2) (1 + ((x2 - yc)/wy)^2))",
          .parameters = {{"y0", "offset"}},
