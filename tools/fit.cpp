@@ -80,6 +80,7 @@ Eigen::MatrixXd read(const host::Table& table, const std::vector<int>& columns) 
 
 std::vector<std::string> names(const host::Table& table, const std::vector<int>& columns) {
     std::vector<std::string> result;
+    result.reserve(columns.size());
     for (const int column : columns) result.push_back(table.name(column));
     return result;
 }
@@ -121,6 +122,7 @@ std::function<bool(const host::Progress&)> progress_line(bool wanted) {
 /// "y0, w, A": the symbols of the parameters of these indices.
 std::string symbols(const host::Fit& fit, const std::vector<int>& indices) {
     std::vector<std::string> list;
+    list.reserve(indices.size());
     for (const int k : indices) list.push_back(fit.parameters[static_cast<std::size_t>(k)].slot.symbol);
     return fmt::format("{}", fmt::join(list, ", "));
 }

@@ -25,10 +25,11 @@ std::string extension(const std::string& file) {
 }
 
 bool on_path(const std::string& program) {
-    const char* path = std::getenv("PATH");
+    const char* path = std::getenv("PATH"); // NOLINT(concurrency-mt-unsafe): the command has one thread
     std::istringstream directories(path ? path : "");
     for (std::string directory; std::getline(directories, directory, ':');) {
-        if (access((directory + "/" + program).c_str(), X_OK) == 0) return true;
+        directory.append("/").append(program);
+        if (access(directory.c_str(), X_OK) == 0) return true;
     }
     return false;
 }

@@ -98,7 +98,7 @@ std::string map(const Picture& p, const Window& window, bool contours) {
         layers.push_back(fmt::format(
             "${} using 1:2:5 with points pointtype 7 pointsize variable linecolor rgb '{}'", name, colour));
     }
-    if (contours) layers.push_back("$contours using 1:2:3 with lines linewidth 1.4 linecolor palette");
+    if (contours) layers.emplace_back("$contours using 1:2:3 with lines linewidth 1.4 linecolor palette");
     return text + draw(layers);
 }
 
