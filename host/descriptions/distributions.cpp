@@ -14,7 +14,7 @@ Family distributions() {
              .block = {{"m", "decimal logarithm of the mass at the top of the peak (as x)"},
                        {"b", "decimal logarithm of the scale s, in the unit of the mass"},
                        {"A", "height of the peak"}},
-             .own_derivatives = false,
+             .true_derivatives = false,
              .notes =
                  "A molar-mass distribution; x is the decimal logarithm of the mass. Very narrow peaks, M/s "
                  "above 10000, lose their lower flank. A peak of height 0 has no derivatives: do not start a "
@@ -50,7 +50,7 @@ Family distributions() {
              .parameters = {{"y0", "offset"}},
              .block = {{"xc", "centre"}, {"A", "amplitude, the saturation on either side"}},
              .block_name = "term",
-             .own_derivatives = false,
+             .true_derivatives = false,
              .notes = "The law has no width: scale x first, to the energy of the dipole in its field over kT."},
             {.name = "Weibull",
              .formula = "y = y0 + (k/b) u^(k - 1) exp(-u^k),  u = (x - x0)/b",

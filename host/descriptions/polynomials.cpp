@@ -1,11 +1,11 @@
-// Polynomials, rational functions, powers, hyperbolas and periodic models.
+// Polynomials and rational functions.
 
 #include "families.hpp"
 
 namespace ansatz::host::descriptions {
 
 Family polynomials() {
-    return {.title = "Polynomials, powers and waves", .models = {}};
+    return {.title = "Polynomials and rational functions", .models = {}};
 }
 
 } // namespace ansatz::host::descriptions

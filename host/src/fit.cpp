@@ -156,7 +156,7 @@ public:
     }
 
     bool Evaluate(const double* const* parameters, double* values, double** jacobians) const override {
-        const Index n = static_cast<Index>(residuals_.free().size());
+        const auto n = static_cast<Index>(residuals_.free().size());
         if (!residuals_.evaluate(Eigen::Map<const VectorXd>(parameters[0], n))) return false;
         const Linearisation& at = residuals_.at();
         std::copy_n(at.residuals.data(), at.residuals.size(), values);
@@ -186,12 +186,15 @@ private:
     std::function<double()> seconds_;
 };
 
-std::string failure_message(const Model& model, const Data& data, Index point) {
+std::string failure_message(const Model& model, const Data& data, const Residuals& residuals,
+                            const VectorXd& free_values, bool numerical) {
+    const Index point = residuals.failed_point();
     std::vector<std::string> position;
     for (Index i = 0; i < data.x.cols(); ++i) position.push_back(fmt::format("{}", data.x(point, i)));
-    return fmt::format(
-        "{} or its derivatives cannot be computed for the start values at x = {} (data point {})", model.name(),
-        fmt::join(position, ", "), point + 1);
+    const bool value = Evaluator(model, residuals.parameters(free_values)).value(data.x, point);
+    return fmt::format("{}{} cannot be computed for the start values at x = {} (data point {}){}",
+                       value ? "the derivatives of " : "", model.name(), fmt::join(position, ", "), point + 1,
+                       value && !numerical ? "; change them, or take numerical derivatives" : "");
 }
 
 /// The columns of J that belong to parameters off their bounds.
@@ -268,6 +271,12 @@ void estimate_errors(Fit& fit, const Residuals& residuals, const std::vector<Ind
     fit.covariance = scale * (inverse.asDiagonal() * unscaled * inverse.asDiagonal());
     const VectorXd deviations = unscaled.diagonal().cwiseSqrt();
     fit.correlation = unscaled.cwiseQuotient(deviations * deviations.transpose());
+    if (!fit.covariance.allFinite() || !fit.correlation.allFinite()) { // where the model is all but flat
+        fit.covariance.resize(0, 0);
+        fit.correlation.resize(0, 0);
+        fit.undetermined = slots;
+        return;
+    }
     fit.varied = slots;
     for (Index j = 0; j < n; ++j) {
         fit.parameters[static_cast<std::size_t>(slots[static_cast<std::size_t>(j)])].error =
@@ -330,7 +339,7 @@ Fit fit(const Model& model, const Data& data, const std::vector<Start>& start, c
         free_values[static_cast<Index>(j)] = start[static_cast<std::size_t>(residuals.free()[j])].value;
     }
     if (!residuals.evaluate(free_values))
-        throw FitError(failure_message(model, data, residuals.failed_point()));
+        throw FitError(failure_message(model, data, residuals, free_values, result.numerical));
     const double first_norm = residuals.at().residuals.norm();
 
     CostFunction cost(residuals);
@@ -376,7 +385,7 @@ Fit fit(const Model& model, const Data& data, const std::vector<Start>& start, c
         polish(residuals, free_values, interior, start);
     }
     if (!residuals.evaluate(free_values))
-        throw FitError(failure_message(model, data, residuals.failed_point()));
+        throw FitError(failure_message(model, data, residuals, free_values, result.numerical));
 
     const VectorXd values = residuals.parameters(free_values);
     for (std::size_t k = 0; k < start.size(); ++k) estimates[k].value = values[static_cast<Index>(k)];
@@ -403,14 +412,13 @@ Fit fit(const Model& model, const Data& data, const std::vector<Start>& start, c
     case ceres::CONVERGENCE:
         result.converged = at_minimum;
         if (!at_minimum) {
-            result.termination = "stopped short of a minimum: no step lowers the sum of squares";
+            result.termination = fmt::format("stopped short of a minimum{}: no step lowers the sum of squares",
+                                             result.numerical ? "" : " (numerical derivatives may do better)");
             break;
         }
         result.termination = "converged: the sum of squares no longer decreases";
         break;
-    case ceres::NO_CONVERGENCE:
-        result.termination = fmt::format("stopped after {} iterations", result.iterations);
-        break;
+    case ceres::NO_CONVERGENCE: result.termination = "stopped at the limit of iterations"; break;
     case ceres::USER_FAILURE: result.termination = "stopped on request"; break;
     default: result.termination = "stopped: no step could be computed"; break;
     }

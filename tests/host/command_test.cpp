@@ -97,6 +97,11 @@ TEST_F(Command, RefusesWithOneClearLine) {
          "ragged.csv: line 2 has 3 columns, the lines before have 2"},
         {"fit Gauss few.csv --start 0,1,1,1", 2, "3 data value(s) cannot determine 4 free parameters"},
         {"fit Gauss e.csv", 2, "--start is required"},
+        {"fit ExpDec1 few.csv --start 0,1,0", 1,
+         "ansatz: ExpDec1 cannot be computed for the start values at x = 1"},
+        {"fit Power1 few.csv --start 2,1,1", 1,
+         "the derivatives of Power1 cannot be computed for the start values at x = 2 (data point 2); "
+         "change them, or take numerical derivatives"},
         {"fit Gauss e.csv --start 0,450,10", 2, "4 or 7 parameters and so on, 3 given"},
         {"fit Gauss e.csv --start 0,450,wide,4", 2, "--start: 'wide' is not a number"},
         {"fit Gauss e.csv --start xc=450,w=10", 2, "--start: no value for y0, A"},

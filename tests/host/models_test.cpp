@@ -75,6 +75,8 @@ TEST(Parameters, AreNumberedByPeakOnlyWithSeveralPeaks) {
     const Model gauss = Model::find("Gauss");
     EXPECT_EQ(symbols(gauss, 4), (std::vector<std::string>{"y0", "xc", "w", "A"}));
     EXPECT_EQ(symbols(gauss, 7), (std::vector<std::string>{"y0", "xc1", "w1", "A1", "xc2", "w2", "A2"}));
+    EXPECT_EQ(symbols(Model::find("BiGaussian"), 9),
+              (std::vector<std::string>{"y0", "xc1", "H1", "w1_1", "w2_1", "xc2", "H2", "w1_2", "w2_2"}));
     EXPECT_EQ(symbols(custom::series(), 1), (std::vector<std::string>{"a0"}));
     EXPECT_EQ(symbols(custom::line(), 2), (std::vector<std::string>{"P1", "P2"}));
 }

@@ -57,4 +57,4 @@ Status derivatives(const Point& at) {
 } // namespace ansatz::goldman
 
 ANSATZ_MODEL(Goldman, ansatz::FormE<ansatz::goldman::value, ansatz::goldman::derivatives,
-                                    {.query = 0, .idle = ansatz::Idle::one}>)
+                                    ansatz::Answers{.query = 0, .idle = ansatz::Idle::one}>)

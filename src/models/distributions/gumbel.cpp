@@ -22,4 +22,5 @@ Status value(const Point& at) {
 } // namespace
 } // namespace ansatz::gumbel
 
-ANSATZ_MODEL(Gumbel, ansatz::FormV<ansatz::gumbel::value, {.query = 0, .idle = ansatz::Idle::one}>)
+ANSATZ_MODEL(Gumbel,
+             ansatz::FormV<ansatz::gumbel::value, ansatz::Answers{.query = 0, .idle = ansatz::Idle::one}>)

@@ -28,4 +28,5 @@ Status value(const Point& at) {
 } // namespace
 } // namespace ansatz::laplace
 
-ANSATZ_MODEL(Laplace, ansatz::FormV<ansatz::laplace::value, {.query = 0, .idle = ansatz::Idle::one}>)
+ANSATZ_MODEL(Laplace,
+             ansatz::FormV<ansatz::laplace::value, ansatz::Answers{.query = 0, .idle = ansatz::Idle::one}>)

@@ -39,4 +39,4 @@ Status derivatives(const Point& at) {
 } // namespace ansatz::pareto2
 
 ANSATZ_MODEL(Pareto2, ansatz::FormE<ansatz::pareto2::value, ansatz::pareto2::derivatives,
-                                    {.query = 1, .idle = ansatz::Idle::one}>)
+                                    ansatz::Answers{.query = 1, .idle = ansatz::Idle::one}>)

@@ -32,4 +32,5 @@ Status value(const Point& at) {
 } // namespace
 } // namespace ansatz::poisson
 
-ANSATZ_MODEL(Poisson, ansatz::FormV<ansatz::poisson::value, {.query = 0, .idle = ansatz::Idle::one}>)
+ANSATZ_MODEL(Poisson,
+             ansatz::FormV<ansatz::poisson::value, ansatz::Answers{.query = 0, .idle = ansatz::Idle::one}>)

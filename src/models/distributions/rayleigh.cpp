@@ -34,4 +34,4 @@ Status derivatives(const Point& at) {
 } // namespace ansatz::rayleigh
 
 ANSATZ_MODEL(Rayleigh, ansatz::FormE<ansatz::rayleigh::value, ansatz::rayleigh::derivatives,
-                                     {.query = 1, .idle = ansatz::Idle::one}>)
+                                     ansatz::Answers{.query = 1, .idle = ansatz::Idle::one}>)

@@ -49,5 +49,6 @@ Status refuse_with_offset(const Point& at) {
 } // namespace
 } // namespace ansatz::weibull
 
-ANSATZ_MODEL(Weibull, ansatz::FormV<ansatz::weibull::value, {.query = 0, .idle = ansatz::Idle::one},
-                                    ansatz::weibull::refuse_with_offset>)
+ANSATZ_MODEL(Weibull,
+             ansatz::FormV<ansatz::weibull::value, ansatz::Answers{.query = 0, .idle = ansatz::Idle::one},
+                           ansatz::weibull::refuse_with_offset>)
