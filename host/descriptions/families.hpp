@@ -10,6 +10,8 @@ Family sigmoids();
 Family growth();
 Family exponentials();
 Family handbook();
+Family handbook_asymptotic();
+Family handbook_one_parameter();
 Family handbook_two_parameter();
 Family handbook_three_parameter();
 Family polynomials();

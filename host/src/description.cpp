@@ -27,6 +27,8 @@ std::span<const Family> families() {
                                             d::growth(),
                                             d::exponentials(),
                                             d::handbook(),
+                                            d::handbook_asymptotic(),
+                                            d::handbook_one_parameter(),
                                             d::handbook_two_parameter(),
                                             d::handbook_three_parameter(),
                                             d::polynomials(),

@@ -99,8 +99,8 @@ TEST_F(Command, RefusesWithOneClearLine) {
         {"fit Gauss e.csv", 2, "--start is required"},
         {"fit ExpDec1 few.csv --start 0,1,0", 1,
          "ansatz: ExpDec1 cannot be computed for the start values at x = 1"},
-        {"fit Power1 few.csv --start 2,1,1", 1,
-         "the derivatives of Power1 cannot be computed for the start values at x = 2 (data point 2); "
+        {"fit YldFert1 few.csv --start 1,1,-1", 1,
+         "the derivatives of YldFert1 cannot be computed for the start values at x = 1 (data point 1); "
          "change them, or take numerical derivatives"},
         {"fit Gauss e.csv --start 0,450,10", 2, "4 or 7 parameters and so on, 3 given"},
         {"fit Gauss e.csv --start 0,450,wide,4", 2, "--start: 'wide' is not a number"},

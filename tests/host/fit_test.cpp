@@ -163,6 +163,64 @@ TEST(Covariance, OfARedundantModelIsRefusedByName) {
     for (const Estimate& parameter : result.parameters) EXPECT_FALSE(parameter.error);
 }
 
+TEST(Runaway, FromABoldFirstStepIsTriedAgainWithCare) {
+    // From here the first full step makes the rate so high that every point lies on the plateau.
+    const Data data{.x = vector({1, 2, 3, 5, 7, 10}), .y = vector({109, 149, 149, 191, 213, 224})};
+    const Model model = Model::find("BoxLucas1");
+    std::vector<int> seen;
+    const auto watch = [&](const Progress& progress) {
+        seen.push_back(progress.iteration);
+        return true;
+    };
+    const Fit result = fit(model, data, starts(model, {1, 1}), {.progress = watch});
+    EXPECT_TRUE(result.converged);
+    expect_relative(result.parameters[1].value, 5.4723748542e-1, 1e-9, "rate");
+    EXPECT_TRUE(std::ranges::is_sorted(seen)) << "iterations count on through the second attempt";
+    EXPECT_EQ(seen.back(), result.iterations);
+
+    // The limit of iterations is one for both attempts.
+    const Fit limited = fit(model, data, starts(model, {1, 1}), {.max_iterations = result.iterations - 1});
+    EXPECT_LT(limited.iterations, result.iterations);
+    // Where the plateau is what the data show, its level is their mean.
+    const Data level{.x = data.x, .y = vector({5, 5.1, 4.9, 5, 5.1, 4.9})};
+    EXPECT_NEAR(fit(model, level, starts(model, {1, 1})).rss, 0.04, 1e-9);
+}
+
+TEST(Runaway, IsNotSoughtInARedundantModel) {
+    const Regression line;
+    int restarts = -1; // every attempt begins with an iteration that has taken no step
+    int last = -1;
+    const auto watch = [&](const Progress& progress) {
+        restarts += progress.iteration <= last || last < 0;
+        last = progress.iteration;
+        return true;
+    };
+    const Fit result =
+        fit(custom::redundant(), line.data, starts(custom::redundant(), {0, 0, 0}), {.progress = watch});
+    EXPECT_TRUE(result.converged);
+    EXPECT_EQ(restarts, 0);
+}
+
+TEST(Bounds, ThatTheWayComesUponAreLeftAgain) {
+    const Model shah = Model::find("Shah");
+    Data data{.x = Eigen::VectorXd::LinSpaced(11, 0, 10), .y = Eigen::VectorXd(11)};
+    for (int i = 0; i < 11; ++i) data.y(i) = 1 + 0.5 * i + 3 * std::pow(0.5, i) + (i % 3 - 1) / 8.0;
+    const Fit free = fit(shah, data, starts(shah, {1, 0.5, 3, 0.5}));
+    ASSERT_TRUE(free.converged);
+    // All within these bounds, and yet a full step from here leads out of them, where its rest points uphill.
+    for (const auto& guess :
+         {std::vector{5.0, 0.0, 0.0, 0.99}, {0.0, -5.0, -5.0, 0.99}, {5.0, 3.0, -5.0, 0.99}}) {
+        auto start = starts(shah, guess);
+        const double lower[] = {-5, -5, -5, 0.01}, upper[] = {5, 3, 8, 0.99};
+        for (std::size_t k = 0; k < 4; ++k) start[k].lower = lower[k], start[k].upper = upper[k];
+        const Fit bounded = fit(shah, data, start);
+        EXPECT_TRUE(bounded.converged) << bounded.termination;
+        for (std::size_t k = 0; k < 4; ++k) {
+            expect_relative(bounded.parameters[k].value, free.parameters[k].value, 1e-9, "parameter");
+        }
+    }
+}
+
 // The columns of the Jacobian are so short here that the inverse of its square overflows.
 TEST(Covariance, OfAnAllButFlatModelIsRefused) {
     const Model model = Model::find("Freundlich");
