@@ -10,7 +10,7 @@
 //   absolute value of Gamma is taken. Needs nParams >= 2: with fewer the call returns 1 and y = P1, without a
 //   marker. No derivatives.
 
-#include "protocol/forms.h"
+#include "models/distributions/answers.h"
 #include "special/log_gamma.h"
 
 namespace ansatz::poisson {
@@ -32,5 +32,4 @@ Status value(const Point& at) {
 } // namespace
 } // namespace ansatz::poisson
 
-ANSATZ_MODEL(Poisson,
-             ansatz::FormV<ansatz::poisson::value, ansatz::Answers{.query = 0, .idle = ansatz::Idle::one}>)
+ANSATZ_MODEL(Poisson, ansatz::FormV<ansatz::poisson::value, ansatz::distribution::values>)
