@@ -79,7 +79,14 @@ int eval(const EvalOptions& options) {
     const auto failures = std::ranges::count(result.ok, char{0});
     if (failures == 0) return done;
     std::fflush(stdout);
-    fmt::print(stderr, "ansatz: {} fails at {} of {} points\n", model.name(), failures, x.rows());
+    const auto without_value = result.y.col(0).array().isNaN().count();
+    if (without_value > 0) {
+        fmt::print(stderr, "ansatz: {} fails at {} of {} points\n", model.name(), without_value, x.rows());
+    }
+    if (failures > without_value) {
+        fmt::print(stderr, "ansatz: the derivatives of {} fail at {} of {} points where it has a value\n",
+                   model.name(), failures - without_value, x.rows());
+    }
     return failed;
 }
 

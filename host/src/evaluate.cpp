@@ -147,10 +147,10 @@ Evaluation evaluate(const Model& model, const Eigen::VectorXd& parameters, const
     for (Eigen::Index i = 0; i < x.rows(); ++i) {
         const bool ok = with_jacobian ? evaluator.derivatives(x, i) : evaluator.value(x, i);
         result.ok[size(i)] = ok;
-        if (!ok) continue;
+        if (!ok && !(with_jacobian && evaluator.value(x, i))) continue;
         for (int d = 0; d < model.outputs(); ++d) {
             result.y(i, d) = evaluator.y(d);
-            if (!with_jacobian) continue;
+            if (!with_jacobian || !ok) continue;
             for (int k = 0; k < n; ++k) result.jacobian[size(d)](i, k) = evaluator.derivative(d, k);
         }
         for (Eigen::Index block = 0; block < result.components.cols(); ++block) {

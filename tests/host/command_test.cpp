@@ -90,6 +90,7 @@ TEST_F(Command, RefusesWithOneClearLine) {
         {"eval Gauss --params 0,1,1,1 --x one", 2, "--x: 'one' is not a number"},
         {"eval Plane --params 1,2,3 --x 1", 2, "takes 2 x values per point"},
         {"eval Gauss --params 0,1,0,1 --x 1", 1, "Gauss fails at 1 of 1 points"},
+        {"eval Gauss --params 0,1,-1,1 --x 1,2 --derivatives", 1, "the derivatives of Gauss fail at 2 of 2 points"},
         {"fit Gauss nofile.csv --start 0,1,1,1", 2, "cannot read the file 'nofile.csv'"},
         {"fit Gauss empty.csv --start 0,1,1,1", 2, "empty.csv: the file is empty"},
         {"fit Gauss bad.csv --start 0,1,1,1", 2, "bad.csv: line 3, column 2: 'abc' is not a number"},

@@ -55,8 +55,8 @@ private:
 struct Evaluation {
     Eigen::MatrixXd y;                     ///< N x outputs; NaN where the model fails
     Eigen::MatrixXd components;            ///< N x components
-    std::vector<Eigen::MatrixXd> jacobian; ///< per output N x P, only when requested
-    std::vector<char> ok;                  ///< per point: did the model succeed?
+    std::vector<Eigen::MatrixXd> jacobian; ///< per output N x P, only when requested; NaN where that fails
+    std::vector<char> ok;                  ///< per point: did everything that was requested succeed?
     bool all_ok() const;
 };
 
