@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <cctype>
+#include <cerrno>
 #include <fstream>
 #include <set>
 #include <sstream>
@@ -134,12 +135,31 @@ TEST(TestCommand, EvaluatesAModelAndReports) {
     lines.clear();
     EXPECT_EQ(FuncTest(2, nullptr, keep_line, &request), 0);
     EXPECT_EQ(lines, (std::vector<std::string>{"status 0", "y[1] = 1", "dyda[1] = 1, central difference 1"}));
+    const double power[] = {0, 2, 3};
+    request = {"Allometric1", FF_DERIV, 2, power, x, y, dyda};
+    lines.clear();
+    errno = 0;
+    EXPECT_EQ(FuncTest(2, nullptr, keep_line, &request), 0);
+    EXPECT_EQ(lines, (std::vector<std::string>{"status 0", "y[1] = 16", "dyda[1] = 8, central difference 8",
+                                               "dyda[2] = 11.090354888959125, central difference 11.0903549"}));
     request.name = "NoSuchModel";
     lines.clear();
     EXPECT_EQ(FuncTest(2, nullptr, keep_line, &request), -1);
     EXPECT_EQ(lines, std::vector<std::string>{"unknown function: NoSuchModel"});
     EXPECT_EQ(FuncTest(2, nullptr, nullptr, &request), -1);
     EXPECT_EQ(FuncTest(7, nullptr, keep_line, &request), 0);
+}
+
+TEST(TestCommand, GivesNoEstimatesForMoreParametersThanItCopies) {
+    const std::vector<double> P(301, 1);
+    std::vector<double> dyda(301);
+    double x[] = {0, 1}, y[2] = {};
+    AnsatzTestRequest request = {"PolyN", FF_DERIV, 300, P.data(), x, y, dyda.data()};
+    lines.clear();
+    EXPECT_EQ(FuncTest(2, nullptr, keep_line, &request), 0);
+    ASSERT_EQ(lines.size(), 302u);
+    EXPECT_EQ(lines[1], "y[1] = 300");
+    EXPECT_EQ(lines.back(), "dyda[300] = 1, central difference nan");
 }
 
 } // namespace

@@ -25,7 +25,6 @@ from section import replace
 
 root = pathlib.Path(__file__).resolve().parents[2]
 build = root / "build/release"
-seed = 1
 per_file = {"models": 3, "special": 6, "protocol": 10, "catalogue": 4}
 
 # Kinds of faults: a pattern in a line of code, and what takes its place.
@@ -125,7 +124,7 @@ def candidates(path):
     return found
 
 
-def chosen(path, count):
+def chosen(path, seed):
     """In the order in which they are tried: one of each kind in turn, shuffled."""
     source = random.Random("%d %s" % (seed, path))
     groups = [source.sample(group, len(group)) for _, group in sorted(candidates(path).items())]
@@ -206,8 +205,10 @@ def test(mutant, project, level="-O1"):
         run(["cc", "-shared", "-fPIC", "-Wl,-soname,libansatz.so.0", "-Wl,-Bsymbolic", "-o", shared, *objects,
              build / "src/exports.ld", "-lm"], check=True)
         environment = dict(os.environ, LD_LIBRARY_PATH=str(folder))
-        if fails(mutant, [build / "tests/models_test", "--gtest_filter=-SharedLibrary.*"], environment):
-            return
+        # The test of the export list reads the built library, not this one; the slow test comes last.
+        for tests in ("-SharedLibrary.*:*ExtrapolatedDifferences", "*ExtrapolatedDifferences"):
+            if fails(mutant, [build / "tests/models_test", "--gtest_filter=" + tests], environment):
+                return
         tests = [build / o for o in project.inside if o not in inside]
         for output in inside:
             compiled = project.compile(output, text_of, folder, "-O0")
@@ -269,6 +270,7 @@ def main():
     parser.add_argument("--sample", type=int)
     parser.add_argument("--show", action="store_true")
     parser.add_argument("--per-file", type=int)
+    parser.add_argument("--seed", type=int, default=1, help="another choice of faults; writes nothing")
     parser.add_argument("files", nargs="*")
     arguments = parser.parse_args()
 
@@ -277,11 +279,11 @@ def main():
     paths = [p for p in paths if any(f in p for f in arguments.files)] if arguments.files else paths
     queues = {}
     for path in paths:
-        order = chosen(path, 0)
+        order = chosen(path, arguments.seed)
         if order:
             queues[path] = (order, arguments.per_file or per_file[path.split("/")[1]])
     if arguments.sample:
-        few = random.Random(seed).sample(sorted(queues), min(arguments.sample, len(queues)))
+        few = random.Random(arguments.seed).sample(sorted(queues), min(arguments.sample, len(queues)))
         queues = {path: (queues[path][0], 1) for path in few if not path.startswith("src/protocol/")}
 
     for program in ("tests/models_test", "tests/inside_test"):
@@ -311,13 +313,13 @@ def main():
         return tested
 
     with concurrent.futures.ThreadPoolExecutor(2) as pool:
-        mutants = [m for tested in pool.map(work, sorted(queues, key=lambda p: "protocol" not in p)) for m in tested]
+        mutants = [m for tested in pool.map(work, sorted(queues, key=lambda p: "protocol" in p)) for m in tested]
 
     survived = [m for m in mutants if not m.caught]
     unexplained = [m for m in survived if m.key() not in known]
     print("%d faults, %d caught, %d explained, %d not" % (
         len(mutants), len(mutants) - len(survived), len(survived) - len(unexplained), len(unexplained)))
-    if not arguments.files and not arguments.sample:
+    if not arguments.files and not arguments.sample and not arguments.per_file and arguments.seed == 1:
         replace(root / "docs/evidence.md", "mutation", figures(mutants, survived, known))
     sys.exit(1 if unexplained else 0)
 
