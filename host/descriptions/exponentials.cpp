@@ -47,6 +47,17 @@ Family exponentials() {
              .notes =
                  "Fails for a time of 0 and where an exponential overflows. Negative times are accepted. Start "
                  "a fit with times that differ by factors: three terms are hard to tell apart."},
+            {.name = "Lanczos3",
+             .formula = "y = A1 exp(-k1 x) + A2 exp(-k2 x) + A3 exp(-k3 x)",
+             .parameters = {{"A1", "first amplitude"},
+                            {"k1", "first rate, 1/(unit of x); negative: growth"},
+                            {"A2", "second amplitude"},
+                            {"k2", "second rate"},
+                            {"A3", "third amplitude"},
+                            {"k3", "third rate"}},
+             .notes = "No offset. Fails where a term overflows. The terms may trade places. Three decays are "
+                      "told apart only by very good data with rates a factor of two or more apart; equal "
+                      "starts for two of the rates end in a fit of two terms."},
             {.name = "ExpDecay1",
              .formula = "y = y0 + A1 exp(-(x - x0)/t1)",
              .parameters = {offset,

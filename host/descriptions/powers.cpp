@@ -14,15 +14,14 @@ Family powers() {
                             {"xc", "centre"},
                             {"A", "amplitude, height above the offset at distance 1"},
                             {"p", "exponent"}},
-             .notes =
-                 "At x = xc the value is y0, and the derivatives by xc and p do not exist: start a fit with xc "
-                 "off the data, or take numerical derivatives."},
+             .notes = "At x = xc the value is y0. The model leaves the derivatives by xc and p open there; a "
+                      "fit takes them by differences."},
             {.name = "Power1",
              .formula = "y = A |x - xc|^p",
              .parameters = {{"xc", "centre"}, {"A", "amplitude, value at distance 1"}, {"p", "exponent"}},
              .notes =
-                 "At x = xc the value is 0, and the derivatives by xc and p do not exist: start a fit with xc "
-                 "off the data, or take numerical derivatives, which a fit with p <= 0 needs too."},
+                 "At x = xc the value is 0. The model leaves the derivatives by xc and p open there; a fit "
+                 "takes them by differences. A fit with p <= 0 needs numerical derivatives throughout."},
             {.name = "Power2",
              .formula = "y = A |x - xc|^pl for x < xc, A |x - xc|^pu for x > xc, 0 at xc",
              .parameters = {{"xc", "centre"},
@@ -30,8 +29,8 @@ Family powers() {
                             {"pl", "exponent below the centre"},
                             {"pu", "exponent above the centre"}},
              .notes =
-                 "At x = xc the derivatives by xc and the exponents do not exist: start a fit with xc off the "
-                 "data, or take numerical derivatives, which a fit with an exponent <= 0 needs too."},
+                 "At x = xc the model leaves the derivatives by xc and the exponents open; a fit takes them by "
+                 "differences. A fit with an exponent <= 0 needs numerical derivatives throughout."},
             {.name = "Hyperbl",
              .formula = "y = A x/(K + x)",
              .parameters = {{"A", "capacity, the level for large x"},

@@ -64,59 +64,63 @@ bool Evaluator::derivatives(const Eigen::MatrixXd& x, Eigen::Index point) {
     if (!call(FF_DERIV)) return false;
     for (int k = 0; k < n_; ++k) {
         jacobian_(0, k) = dyda_[size(k) + 1];
-        if (!usable(jacobian_(0, k))) return false;
+        if (!usable(jacobian_(0, k)) && !differentiate(0, k)) return false;
     }
     return model_.outputs() == 1 || differentiate(1); // dyda belongs to y[1] alone
 }
 
-/// Fills the Jacobian's rows from this output on by central differences. Two step widths are combined by
+/// Fills column k of the Jacobian, from this output on, by central differences. Two step widths are combined by
 /// Richardson's extrapolation, and widths are lowered until both agree to what rounding allows: a parameter's
 /// magnitude says little about the scale on which a model depends on it.
-bool Evaluator::differentiate(int output_from) {
+bool Evaluator::differentiate(int output_from, int k) {
     const int outputs = model_.outputs();
     using Outputs = std::array<double, 2>;
-    for (int k = 0; k < n_; ++k) {
-        double& parameter = P_[size(k) + 1];
-        const double at = parameter;
-        const auto difference = [&](double step) -> std::optional<Outputs> {
-            Outputs sides[2];
-            const double positions[2] = {at + step, at - step};
-            for (int side = 0; side < 2; ++side) {
-                parameter = positions[side];
-                const bool ok = call_value();
-                parameter = at;
-                if (!ok) return std::nullopt;
-                std::copy_n(y_.begin() + 1, outputs, sides[side].begin());
-            }
-            Outputs slope{};
-            for (std::size_t d = 0; d < size(outputs); ++d) {
-                slope[d] = (sides[0][d] - sides[1][d]) / (positions[0] - positions[1]);
-            }
-            return slope;
-        };
-        double best = std::numeric_limits<double>::infinity();
-        double step = 1e-4 * std::max(std::fabs(at), 0.1);
-        for (int attempt = 0; attempt < 6; ++attempt, step /= 8) {
-            const auto wide = difference(step), narrow = difference(step / 2);
-            if (!wide || !narrow) continue;
-            double disagreement = 0;
-            bool settled = true;
-            for (std::size_t d = size(output_from); d < size(outputs); ++d) {
-                const double gap = std::fabs((*wide)[d] - (*narrow)[d]);
-                const double rounding = 1e-15 * std::fabs(result_[d + 1]) / step;
-                settled = settled && gap <= std::max(1e-7 * std::fabs((*narrow)[d]), rounding);
-                disagreement = std::max(disagreement, gap);
-            }
-            if (!std::isfinite(disagreement)) continue;
-            if (disagreement < best) {
-                best = disagreement;
-                for (int d = output_from; d < outputs; ++d) {
-                    jacobian_(d, k) = (4 * (*narrow)[size(d)] - (*wide)[size(d)]) / 3;
-                }
-            }
-            if (settled) break;
+    double& parameter = P_[size(k) + 1];
+    const double at = parameter;
+    const auto difference = [&](double step) -> std::optional<Outputs> {
+        Outputs sides[2];
+        const double positions[2] = {at + step, at - step};
+        for (int side = 0; side < 2; ++side) {
+            parameter = positions[side];
+            const bool ok = call_value();
+            parameter = at;
+            if (!ok) return std::nullopt;
+            std::copy_n(y_.begin() + 1, outputs, sides[side].begin());
         }
-        if (!std::isfinite(best)) return false;
+        Outputs slope{};
+        for (std::size_t d = 0; d < size(outputs); ++d) {
+            slope[d] = (sides[0][d] - sides[1][d]) / (positions[0] - positions[1]);
+        }
+        return slope;
+    };
+    double best = std::numeric_limits<double>::infinity();
+    double step = 1e-4 * std::max(std::fabs(at), 0.1);
+    for (int attempt = 0; attempt < 6; ++attempt, step /= 8) {
+        const auto wide = difference(step), narrow = difference(step / 2);
+        if (!wide || !narrow) continue;
+        double disagreement = 0;
+        bool settled = true;
+        for (std::size_t d = size(output_from); d < size(outputs); ++d) {
+            const double gap = std::fabs((*wide)[d] - (*narrow)[d]);
+            const double rounding = 1e-15 * std::fabs(result_[d + 1]) / step;
+            settled = settled && gap <= std::max(1e-7 * std::fabs((*narrow)[d]), rounding);
+            disagreement = std::max(disagreement, gap);
+        }
+        if (!std::isfinite(disagreement)) continue;
+        if (disagreement < best) {
+            best = disagreement;
+            for (int d = output_from; d < outputs; ++d) {
+                jacobian_(d, k) = (4 * (*narrow)[size(d)] - (*wide)[size(d)]) / 3;
+            }
+        }
+        if (settled) break;
+    }
+    return std::isfinite(best);
+}
+
+bool Evaluator::differentiate(int output_from) {
+    for (int k = 0; k < n_; ++k) {
+        if (!differentiate(output_from, k)) return false;
     }
     return true;
 }

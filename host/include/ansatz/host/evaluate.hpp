@@ -11,8 +11,8 @@
 namespace ansatz::host {
 
 /// Where the derivatives come from. `best` takes the model's own where it offers them and central differences
-/// with Richardson's extrapolation elsewhere: for models that offer none, and for the second dependent
-/// variable.
+/// with Richardson's extrapolation elsewhere: for models that offer none or false ones, for the second
+/// dependent variable, and for the single derivative that a model marks as missing although it succeeds.
 enum class Derivatives { best, numerical };
 
 /// A model with given parameters and the buffers it is called through. Evaluates one point at a time and
@@ -40,6 +40,7 @@ private:
     bool call(unsigned request);
     bool call_value();
     bool differentiate(int output_from);
+    bool differentiate(int output_from, int k);
 
     Model model_;
     int n_;

@@ -44,7 +44,7 @@ public:
     FitFunction function() const { return function_; }
     int inputs() const { return inputs_; }      ///< number of independent variables
     int outputs() const { return outputs_; }    ///< number of dependent variables, 1 or 2
-    bool analytic() const { return analytic_; } ///< does it offer derivatives of y[1]?
+    bool analytic() const { return analytic_; } ///< does it offer true derivatives of y[1]?
     const Description* description() const { return described_.text; }
     std::string_view family() const { return described_.family; }
 
