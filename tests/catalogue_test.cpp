@@ -100,7 +100,7 @@ TEST(Placeholders, AnswerAndWriteNothing) {
 
 TEST(TestCommand, EvaluatesAModelAndReports) {
     const double P[] = {0, 1, 2, 3}, unknown_slot = 0;
-    double x[] = {unknown_slot, 2}, y[3] = {}, dyda[4] = {};
+    double x[] = {unknown_slot, 3}, y[3] = {}, dyda[4] = {};
     AnsatzTestRequest request = {"Lorentz", FF_DERIV, 1, P, x, y, dyda};
     lines.clear();
     EXPECT_EQ(FuncTest(2, nullptr, keep_line, &request), 0);
@@ -110,8 +110,9 @@ TEST(TestCommand, EvaluatesAModelAndReports) {
     lines.clear();
     errno = 0;
     EXPECT_EQ(FuncTest(2, nullptr, keep_line, &request), 0);
-    EXPECT_EQ(lines, (std::vector<std::string>{"status 0", "y[1] = -8000000", "dyda[1] = 8, central difference 8",
-                                               "dyda[2] = -5545177.4444795623, central difference -5545177.44"}));
+    EXPECT_EQ(lines,
+              (std::vector<std::string>{"status 0", "y[1] = -27000000", "dyda[1] = 27, central difference 27",
+                                        "dyda[2] = -29662531.794038963, central difference -29662531.8"}));
     request.name = "NoSuchModel";
     lines.clear();
     EXPECT_EQ(FuncTest(2, nullptr, keep_line, &request), -1);

@@ -16,6 +16,7 @@ import os
 import pathlib
 import random
 import re
+import shlex
 import subprocess
 import sys
 import tempfile
@@ -165,9 +166,9 @@ class Build:
     def compile(self, output, text_of, into, level):
         """Compiles one object, or with a list of them one object of all, from mutated sources."""
         outputs = output if isinstance(output, list) else [output]
-        words = self.command[outputs[0]]["command"].split()
+        words = shlex.split(self.command[outputs[0]]["command"])
         words = words[:words.index("-o")]
-        words = [w for w in words if not w.startswith(("-O", "-W", "-D", "-I" + str(root / "src")))]
+        words = [w for w in words if not w.startswith(("-O", "-W", "-I" + str(root / "src")))]
         overlay = into / "overlay"
         for path, text in text_of.items():
             target = overlay / os.path.relpath(path, "src")
@@ -180,7 +181,7 @@ class Build:
             whole = into / "whole.cpp"
             whole.write_text("".join('#include "%s"\n' % s for s in sources))
         object_file = into / (re.sub(r"\W", "_", outputs[0]) + ".o")
-        done = run(words + ["-DNDEBUG", "-w", level, "-I", overlay, "-I", root / "src", "-o", object_file, "-c", whole])
+        done = run(words + ["-w", level, "-I", overlay, "-I", root / "src", "-o", object_file, "-c", whole])
         return object_file if done.returncode == 0 else None
 
 
