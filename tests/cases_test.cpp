@@ -5,8 +5,8 @@
 //   FLAGS   value, deriv, both, query, probe, none, or the flags byte as a number
 //   n       nParams, by default the number of parameters given
 //   errno   the error indicator on entry, and after the call (0 when not named)
-//   slot    y1, d3, x2 ...; value a number (met to 4 ulp; 0, inf and nan exactly), or missing. Slots not
-//           named must be left untouched. d0:CODE= stands for a 32-bit code at dyda[0].
+//   slot    y1, d3, x2 ...; value a number (met to 4 ulp; 0, inf and nan exactly; +0 and -0 with their sign),
+//           or missing. Slots not named must be left untouched. d0:CODE= stands for a 32-bit code at dyda[0].
 //
 // Numbers are worked out by hand or with many digits, never taken from a run.
 
@@ -20,6 +20,7 @@
 #include <fstream>
 #include <limits>
 #include <map>
+#include <set>
 #include <sstream>
 
 namespace ansatz::test {
@@ -30,6 +31,7 @@ struct Case {
     Request request;
     int status = 0, indicator = 0;
     std::map<std::string, double> writes;
+    std::set<std::string> signed_zeros;
 };
 
 double number(const std::string& word) {
@@ -72,6 +74,7 @@ Case parse(const std::string& text) {
             line >> c.indicator;
         else
             c.writes[word.substr(0, equals)] = word.back() == '=' ? 0 : number(word.substr(equals + 1));
+        if (word.ends_with("=+0") || word.ends_with("=-0")) c.signed_zeros.insert(word.substr(0, equals));
     }
     return c;
 }
@@ -93,6 +96,9 @@ void check(const Case& c) {
         } else if (!slot.starts_with("d0:")) {
             EXPECT_TRUE(agrees(got->second, want)) << slot << " is " << got->second << ", not " << want;
         }
+    }
+    for (const std::string& slot : c.signed_zeros) {
+        EXPECT_TRUE(same_bits(outcome.written.at(slot), c.writes.at(slot))) << slot << " has the wrong sign";
     }
     for (const auto& [slot, got] : outcome.written) {
         EXPECT_TRUE(c.writes.contains(slot)) << slot << " = " << got << " was written";

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <cctype>
+#include <cerrno>
 #include <set>
 
 namespace ansatz::test {
@@ -99,17 +100,37 @@ TEST(Placeholders, AnswerAndWriteNothing) {
 
 TEST(TestCommand, EvaluatesAModelAndReports) {
     const double P[] = {0, 1, 2, 3}, unknown_slot = 0;
-    double x[] = {unknown_slot, 2}, y[3] = {}, dyda[4] = {};
+    double x[] = {unknown_slot, 3}, y[3] = {}, dyda[4] = {};
     AnsatzTestRequest request = {"Lorentz", FF_DERIV, 1, P, x, y, dyda};
     lines.clear();
     EXPECT_EQ(FuncTest(2, nullptr, keep_line, &request), 0);
     EXPECT_EQ(lines, (std::vector<std::string>{"status 0", "y[1] = 1", "dyda[1] = 1, central difference 1"}));
+    const double power[] = {0, -1e6, 3};
+    request = {"Allometric1", FF_DERIV, 2, power, x, y, dyda};
+    lines.clear();
+    errno = 0;
+    EXPECT_EQ(FuncTest(2, nullptr, keep_line, &request), 0);
+    EXPECT_EQ(lines,
+              (std::vector<std::string>{"status 0", "y[1] = -27000000", "dyda[1] = 27, central difference 27",
+                                        "dyda[2] = -29662531.794038963, central difference -29662531.8"}));
     request.name = "NoSuchModel";
     lines.clear();
     EXPECT_EQ(FuncTest(2, nullptr, keep_line, &request), -1);
     EXPECT_EQ(lines, std::vector<std::string>{"unknown function: NoSuchModel"});
     EXPECT_EQ(FuncTest(2, nullptr, nullptr, &request), -1);
     EXPECT_EQ(FuncTest(7, nullptr, keep_line, &request), 0);
+}
+
+TEST(TestCommand, GivesNoEstimatesForMoreParametersThanItCopies) {
+    const std::vector<double> P(301, 1);
+    std::vector<double> dyda(301);
+    double x[] = {0, 1}, y[2] = {};
+    AnsatzTestRequest request = {"PolyN", FF_DERIV, 300, P.data(), x, y, dyda.data()};
+    lines.clear();
+    EXPECT_EQ(FuncTest(2, nullptr, keep_line, &request), 0);
+    ASSERT_EQ(lines.size(), 302u);
+    EXPECT_EQ(lines[1], "y[1] = 300");
+    EXPECT_EQ(lines.back(), "dyda[300] = 1, central difference nan");
 }
 
 } // namespace

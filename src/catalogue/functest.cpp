@@ -46,12 +46,14 @@ std::int32_t list(const Report& report) {
     return catalogue_size;
 }
 
-constexpr int most_params = 255; // parameters beyond have no estimate
+constexpr int most_params = 255; // with more there are no estimates
 
-/// The central difference of y[1] by params[k], on copies of the inputs; NaN where the model fails.
+/// The central difference of y[1] by params[k], on copies of the inputs; NaN where the model fails, and for
+/// more parameters than the copy holds. It has room for the models that read behind those supplied.
 double central_difference(const FunctionEntry& row, const AnsatzTestRequest& request, int n, int k) {
-    double P[most_params + 1] = {}, x[4] = {}, y[most_params + 2], dyda[1];
-    std::copy_n(request.params + 1, std::min(n, most_params), P + 1);
+    if (n > most_params) return std::nan("");
+    double P[2 * most_params] = {}, x[4] = {}, y[most_params + 2], dyda[1];
+    std::copy_n(request.params + 1, n, P + 1);
     std::copy_n(request.x + 1, row.nIndep, x + 1);
     const double at = P[k], step = 6e-6 * std::fmax(std::fabs(at), 1e-3);
     const auto value = [&](double shifted) {
@@ -79,7 +81,7 @@ std::int32_t evaluate(const Report& report, const AnsatzTestRequest& request) {
     if (request.flags & FF_DERIV) {
         const int supplied = static_cast<std::int16_t>(request.nParams);
         const int n = supplied > 0 ? supplied : row->nParams;
-        for (int k = 1; k <= std::min(n, most_params); ++k) {
+        for (int k = 1; k <= n; ++k) {
             report.line("dyda[%d] = %.17g, central difference %.9g", k, request.dyda[k],
                         central_difference(*row, request, n, k));
         }

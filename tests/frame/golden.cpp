@@ -42,6 +42,7 @@ void read_family(const std::filesystem::path& file, std::vector<GoldenRow>& rows
             Expected e{};
             line >> e.slot >> word;
             e.want = std::strtod(word.c_str(), nullptr);
+            e.exact = std::strtold(word.c_str(), nullptr);
             line >> word;
             e.condition = std::strtod(word.c_str(), nullptr);
             e.stated = static_cast<bool>(line >> word);

@@ -12,6 +12,7 @@ namespace ansatz::test {
 struct Expected {
     int slot;
     double want;
+    long double exact;   ///< the same with the digits beyond a double, where long double has them
     double condition;    ///< sum of |d want/d input * input|: what an error in the inputs is magnified by
     bool stated = false; ///< a derivative slot that departs from the true derivative on purpose
 };

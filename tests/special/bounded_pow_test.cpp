@@ -23,8 +23,10 @@ TEST_F(BoundedPow, BoundsBaseAndExponentOnlyTogether) {
     EXPECT_DOUBLE_EQ(bounded_pow(150, 2), 22500);
     EXPECT_DOUBLE_EQ(bounded_pow(2, 150), 0x1p150);
     EXPECT_DOUBLE_EQ(bounded_pow(140, 141), 140 * 2.8702848252332551433e+300);
+    EXPECT_DOUBLE_EQ(bounded_pow(141, 140), 7.7745591440660413031e+300);
     EXPECT_EQ(errno, 0);
     EXPECT_EQ(bounded_pow(0, 3), 0);
+    EXPECT_FALSE(std::signbit(bounded_pow(-0.0, 3)));
 }
 
 TEST_F(BoundedPow, MarksAnErrorAndLeavesItSet) {

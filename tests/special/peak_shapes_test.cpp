@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <cmath>
 #include <string>
 #include <vector>
@@ -76,6 +77,7 @@ double value(const Shape& shape, double x) {
     std::vector<double> P = shape.P;
     P.insert(P.begin(), 0);
     double xs[] = {0, x}, y[8], dyda[1];
+    errno = 0;
     const auto n = static_cast<std::int32_t>(shape.P.size());
     EXPECT_EQ(get_funx(shape.name.c_str())(FF_VALUE, 0, n, 0, 0, P.data(), 0, xs, y, dyda), 0);
     return y[1];
