@@ -100,15 +100,21 @@ bool makes_sense(const AnsatzBatch& b) {
 
 /// Points are handed out to threads in blocks: long enough to be worth a look at the common counter, short
 /// enough that all end at about the same time.
-constexpr std::size_t block = 1024;
+constexpr std::ptrdiff_t block = 1024;
 
-std::size_t run_on_threads(Loop loop, const Job& job, std::size_t points, int threads) {
-    std::atomic<std::size_t> next = 0, failures = 0;
+std::size_t run_on_threads(Loop loop, const Job& job, std::ptrdiff_t points, int threads) {
+    std::atomic<std::ptrdiff_t> next = 0;
+    std::atomic<std::size_t> failures = 0;
     const auto work = [&] {
+        Job own = job;
+        std::int32_t sink = 0; // threads must not write to one place, even if nobody reads it
+        if (own.status_stride == 0) own.status = &sink;
+        double unread = 0;
+        if (own.outputs == 0) own.y = &unread;
         for (;;) {
-            const std::size_t first = next.fetch_add(block, std::memory_order_relaxed);
+            const std::ptrdiff_t first = next.fetch_add(block, std::memory_order_relaxed);
             if (first >= points) return;
-            failures.fetch_add(loop(job, first, std::min(first + block, points)), std::memory_order_relaxed);
+            failures.fetch_add(loop(own, first, std::min(first + block, points)), std::memory_order_relaxed);
         }
     };
     std::vector<std::jthread> others;
@@ -120,6 +126,22 @@ std::size_t run_on_threads(Loop loop, const Job& job, std::size_t points, int th
     }
     work();
     others.clear();
+    return failures;
+}
+
+/// Rows of the Jacobian that are too short for what the model writes are filled by way of one that is not.
+std::size_t run_by_wide_row(Loop loop, Job job, std::ptrdiff_t points) {
+    double wide[2 * most_params] = {};
+    double* row = job.jacobian;
+    const std::ptrdiff_t stride = job.jacobian_stride;
+    job.jacobian = wide;
+    job.jacobian_stride = 0;
+    std::size_t failures = 0;
+    for (std::ptrdiff_t i = 0; i < points; ++i, row += stride) {
+        std::copy_n(row, job.n, wide);
+        failures += loop(job, i, i + 1);
+        std::copy_n(wide, job.n, row);
+    }
     return failures;
 }
 
@@ -138,30 +160,34 @@ std::int64_t ANSATZ_CALL ansatz_batch_run(const AnsatzBatchModel* model, const A
     using namespace ansatz::batch;
     if (!model || !batch || !makes_sense(*batch)) return -1;
     const AnsatzBatch& b = *batch;
+    const bool derivatives = b.request == FF_DERIV;
     static constexpr double zero = 0;
+    double unread_y = 0;
+    std::int32_t unread_status = 0;
     Job job{.n = b.nParams,
             .params = b.params,
             .x = {&zero, &zero, &zero},
             .x_stride = {0, 0, 0},
             .outputs = b.nY,
-            .y = b.y,
-            .y_stride = b.yStride,
+            .y = b.nY > 0 ? b.y : &unread_y,
+            .y_stride = b.nY > 0 ? b.yStride : 0,
             .jacobian = b.jacobian,
             .jacobian_stride = b.jacobianStride,
-            .rows_hold_all_slots = slots_written(*model, b.nParams) <= b.nParams,
-            .status = b.status};
+            .status = b.status ? b.status : &unread_status,
+            .status_stride = b.status ? 1 : 0};
     for (int c = 0; c < b.nX; ++c) {
         job.x[c] = b.x[c];
         job.x_stride[c] = b.xStride[c];
     }
-    const Loop loop = b.request == FF_DERIV ? model->loops->derivatives : model->loops->value;
-    const std::size_t blocks = (b.nPoints + block - 1) / block;
-    const int threads =
-        static_cast<int>(std::min<std::size_t>(blocks, static_cast<std::size_t>(std::max(b.threads, 1))));
+    const Loop loop = derivatives ? model->loops->derivatives : model->loops->value;
+    const auto points = static_cast<std::ptrdiff_t>(b.nPoints);
+    const int threads = static_cast<int>(std::min<std::ptrdiff_t>((points + block - 1) / block, b.threads));
 
     const int indicator = errno;
-    const std::size_t failures =
-        threads > 1 ? run_on_threads(loop, job, b.nPoints, threads) : loop(job, 0, b.nPoints);
+    const std::size_t failures = derivatives && slots_written(*model, b.nParams) > b.nParams
+                                     ? run_by_wide_row(loop, job, points)
+                                 : threads > 1 ? run_on_threads(loop, job, points, threads)
+                                               : loop(job, 0, points);
     errno = indicator;
     return static_cast<std::int64_t>(failures);
 }
