@@ -2,14 +2,11 @@
 // slot that is read.
 
 #include "frame/call.h"
+#include "frame/exports.h"
 
 #include <gtest/gtest.h>
 
 #include <cerrno>
-
-extern "C" ANSATZ_API std::int32_t ANSATZ_CALL Boltzman1(std::uint32_t, std::uint32_t, std::int32_t,
-                                                         std::uint32_t, std::uint32_t, const double*,
-                                                         std::uint32_t, double*, double*, double*);
 
 namespace ansatz::test {
 namespace {
@@ -17,7 +14,8 @@ namespace {
 using Slots = std::map<std::string, double>;
 
 Outcome boltzman1(unsigned flags, double x, int indicator = 0, int nParams = 3) {
-    return call({.function = Boltzman1}, {flags, nParams, {5, 1, 2}, {x}, indicator});
+    static const FitFunction function = exported_routine("Boltzman1");
+    return call({.function = function}, {flags, nParams, {5, 1, 2}, {x}, indicator});
 }
 
 TEST(Boltzman1, IsReachedByItsExportOnly) {

@@ -80,6 +80,7 @@ Eigen::MatrixXd read(const host::Table& table, const std::vector<int>& columns) 
 
 std::vector<std::string> names(const host::Table& table, const std::vector<int>& columns) {
     std::vector<std::string> result;
+    result.reserve(columns.size());
     for (const int column : columns) result.push_back(table.name(column));
     return result;
 }
@@ -121,11 +122,35 @@ std::function<bool(const host::Progress&)> progress_line(bool wanted) {
 /// "y0, w, A": the symbols of the parameters of these indices.
 std::string symbols(const host::Fit& fit, const std::vector<int>& indices) {
     std::vector<std::string> list;
+    list.reserve(indices.size());
     for (const int k : indices) list.push_back(fit.parameters[static_cast<std::size_t>(k)].slot.symbol);
     return fmt::format("{}", fmt::join(list, ", "));
 }
 
-void print_text(const host::Model& model, const host::Fit& fit, const std::string& source) {
+/// A remark where the data of two y columns scatter differently and nothing tells the fit so.
+std::string scatter_remark(const host::Data& data, const host::Fit& fit,
+                           const std::vector<std::string>& columns) {
+    if (data.y.cols() != 2) return "";
+    double scatter[2];
+    for (Eigen::Index d = 0; d < 2; ++d) {
+        const Eigen::VectorXd residuals = data.y.col(d) - fit.fitted.col(d);
+        const bool weighted = data.weights.size() > 0;
+        const Eigen::Index w = weighted ? std::min(d, data.weights.cols() - 1) : 0;
+        scatter[d] =
+            weighted ? residuals.cwiseProduct(data.weights.col(w).cwiseSqrt()).norm() : residuals.norm();
+    }
+    const bool first = scatter[0] > scatter[1];
+    const double low = std::min(scatter[0], scatter[1]), high = std::max(scatter[0], scatter[1]);
+    const bool exact = high <= 1e-9 * data.y.norm();
+    if (exact || !(high > 3 * low)) return "";
+    return fmt::format(
+        "{} scatters {:.0f} times as much as {}, and the fit takes both as equally good: the standard "
+        "errors\nmislead. Give --errors or --weights for each of the two columns.\n\n",
+        columns[first ? 0 : 1], high / low, columns[first ? 1 : 0]);
+}
+
+void print_text(const host::Model& model, const host::Fit& fit, const std::string& source,
+                const std::string& scatter) {
     fmt::print("{}", model.name());
     if (model.description()) fmt::print(":  {}", model.description()->formula);
     fmt::print("\n{} points from {}; {} after {} iterations{}\n\n", fit.points, source, fit.termination,
@@ -148,6 +173,8 @@ void print_text(const host::Model& model, const host::Fit& fit, const std::strin
         fmt::print("No standard errors: the covariance is singular, the data do not determine {}.\n\n",
                    symbols(fit, fit.undetermined));
     }
+
+    fmt::print("{}", scatter);
 
     const auto number = [](std::optional<double> value, int digits) {
         return value ? fmt::format("{:.{}g}", *value, digits) : std::string("-");
@@ -267,12 +294,16 @@ int fit(const FitCommandOptions& options) {
     if (options.json) {
         fmt::print("{}\n", fit_json(model, table, columns, start, result, source).dump(2));
     } else {
-        print_text(model, result, source);
+        print_text(model, result, source, scatter_remark(data, result, names(table, columns.y)));
     }
     std::fflush(stdout);
     if (!options.plot.empty()) {
-        const PlotLabels labels{names(table, columns.x)[0], names(table, columns.y)};
-        plot(model, data, result, deviations, labels, options.plot);
+        plot({model,
+              data,
+              result,
+              deviations,
+              {names(table, columns.x), names(table, columns.y)},
+              options.plot});
     }
     if (result.converged) return done;
     fmt::print(stderr, "ansatz: the fit did not converge: {}\n", result.termination);

@@ -48,13 +48,14 @@ int list(const ListOptions& options) {
     Json json = Json::array();
     bool first = true;
     for (const std::string_view family : order) {
-        if (!found.contains(family)) continue;
+        const auto group = found.extract(family); // once, also where two files share a title
+        if (group.empty()) continue;
         TextTable table({{"model", Align::left},
                          {"x", Align::right},
                          {"y", Align::right},
                          {"parameters", Align::left},
                          {"formula", Align::left}});
-        for (const host::Model& model : found[family]) {
+        for (const host::Model& model : group.mapped()) {
             json.push_back(describe_json(model));
             std::string formula(model.description() ? model.description()->formula : "");
             if (model.reserved()) formula = "reserved name, computes nothing";

@@ -63,6 +63,8 @@ Examples:
   ansatz fit Gauss eckerle4.csv --start 0,450,10,4 --fix P1=0
   ansatz fit Gauss eckerle4.csv --start xc=450,w=10,A=4 --fix y0=0 --lower w=0 --plot fit.png
   ansatz fit Gauss two.csv --start 0,440,8,4,460,8,2 --x time --y signal --errors sd --json
+  ansatz fit Gauss2D map.csv --x east,north --y height --start 0,5,1,1,2,1 --plot map.png
+  ansatz fit Circle points.csv --start 0,0,1       (an implicit curve has no y column)
   zcat data.gz | ansatz fit Lorentz - --start -1,2,0.5,3
 
 Exit status: 0 success, 1 the fit failed or did not converge, 2 wrong usage or input.)";

@@ -6,6 +6,21 @@
 #include <fmt/format.h>
 
 namespace ansatz::tools {
+namespace {
+
+/// The text in lines of at most this many characters, broken at blanks.
+std::string wrapped(std::string_view text, std::size_t width = 96) {
+    std::string lines;
+    while (text.size() > width) {
+        const std::size_t blank = text.rfind(' ', width);
+        if (blank == std::string_view::npos) break;
+        lines.append(text.substr(0, blank)).append("\n");
+        text.remove_prefix(blank + 1);
+    }
+    return lines.append(text);
+}
+
+} // namespace
 
 int show(const ShowOptions& options) {
     const host::Model model = host::Model::find(options.model);
@@ -33,8 +48,10 @@ int show(const ShowOptions& options) {
     }
     fmt::print("\nParameters ({})\n{}", parameter_count(model), table.text());
     if (model.replicated()) {
-        fmt::print("  With several {0}s the symbols are numbered: {1}{2}, {1}{3}, ...\n", text->block_name,
-                   text->block.front().symbol, text->first_block, text->first_block + 1);
+        const std::size_t lead = text->parameters.size(), size = text->block.size();
+        const auto two = model.slots(static_cast<int>(lead + 2 * size));
+        fmt::print("  With several {}s the symbols are numbered: {}, {}, ...\n", text->block_name,
+                   two[lead].symbol, two[lead + size].symbol);
     }
 
     fmt::print("\nx columns    {}\n", model.inputs());
@@ -45,7 +62,7 @@ int show(const ShowOptions& options) {
     }
     fmt::print("Derivatives  {}\n", model.analytic() ? "analytic" : "numerical, by the host");
     if (model.components(n) > 0) fmt::print("Components   one per {}, without the offset\n", text->block_name);
-    if (text && !text->notes.empty()) fmt::print("\n{}\n", text->notes);
+    if (text && !text->notes.empty()) fmt::print("\n{}\n", wrapped(text->notes));
     return done;
 }
 

@@ -22,9 +22,22 @@ struct CaselessOrder {
 
 std::span<const Family> families() {
     namespace d = descriptions;
-    static const std::vector<Family> all = {d::peaks(),    d::sigmoids(),    d::exponentials(),
-                                            d::handbook(), d::polynomials(), d::distributions(),
-                                            d::surfaces(), d::multi(),       d::reserved()};
+    static const std::vector<Family> all = {d::peaks(),
+                                            d::sigmoids(),
+                                            d::growth(),
+                                            d::exponentials(),
+                                            d::handbook(),
+                                            d::handbook_asymptotic(),
+                                            d::handbook_one_parameter(),
+                                            d::handbook_two_parameter(),
+                                            d::handbook_three_parameter(),
+                                            d::polynomials(),
+                                            d::powers(),
+                                            d::distributions(),
+                                            d::surfaces(),
+                                            d::multi(),
+                                            d::testing(),
+                                            d::reserved()};
     return all;
 }
 

@@ -64,61 +64,117 @@ bool Evaluator::derivatives(const Eigen::MatrixXd& x, Eigen::Index point) {
     if (!call(FF_DERIV)) return false;
     for (int k = 0; k < n_; ++k) {
         jacobian_(0, k) = dyda_[size(k) + 1];
-        if (!usable(jacobian_(0, k))) return false;
+        if (!usable(jacobian_(0, k)) && !differentiate(0, k)) return false;
     }
     return model_.outputs() == 1 || differentiate(1); // dyda belongs to y[1] alone
 }
 
-/// Fills the Jacobian's rows from this output on by central differences. Two step widths are combined by
+/// Fills column k of the Jacobian, from this output on, by central differences. Two step widths are combined by
 /// Richardson's extrapolation, and widths are lowered until both agree to what rounding allows: a parameter's
 /// magnitude says little about the scale on which a model depends on it.
-bool Evaluator::differentiate(int output_from) {
+bool Evaluator::differentiate(int output_from, int k) {
     const int outputs = model_.outputs();
     using Outputs = std::array<double, 2>;
-    for (int k = 0; k < n_; ++k) {
-        double& parameter = P_[size(k) + 1];
-        const double at = parameter;
-        const auto difference = [&](double step) -> std::optional<Outputs> {
-            Outputs sides[2];
-            const double positions[2] = {at + step, at - step};
-            for (int side = 0; side < 2; ++side) {
-                parameter = positions[side];
-                const bool ok = call_value();
-                parameter = at;
-                if (!ok) return std::nullopt;
-                std::copy_n(y_.begin() + 1, outputs, sides[side].begin());
-            }
-            Outputs slope{};
-            for (std::size_t d = 0; d < size(outputs); ++d) {
-                slope[d] = (sides[0][d] - sides[1][d]) / (positions[0] - positions[1]);
-            }
-            return slope;
-        };
-        double best = std::numeric_limits<double>::infinity();
-        double step = 1e-4 * std::max(std::fabs(at), 0.1);
-        for (int attempt = 0; attempt < 6; ++attempt, step /= 8) {
-            const auto wide = difference(step), narrow = difference(step / 2);
-            if (!wide || !narrow) continue;
-            double disagreement = 0;
-            bool settled = true;
-            for (std::size_t d = size(output_from); d < size(outputs); ++d) {
-                const double gap = std::fabs((*wide)[d] - (*narrow)[d]);
-                const double rounding = 1e-15 * std::fabs(result_[d + 1]) / step;
-                settled = settled && gap <= std::max(1e-7 * std::fabs((*narrow)[d]), rounding);
-                disagreement = std::max(disagreement, gap);
-            }
-            if (!std::isfinite(disagreement)) continue;
-            if (disagreement < best) {
-                best = disagreement;
-                for (int d = output_from; d < outputs; ++d) {
-                    jacobian_(d, k) = (4 * (*narrow)[size(d)] - (*wide)[size(d)]) / 3;
-                }
-            }
-            if (settled) break;
+    double& parameter = P_[size(k) + 1];
+    const double at = parameter;
+    const auto difference = [&](double step) -> std::optional<Outputs> {
+        Outputs sides[2];
+        const double positions[2] = {at + step, at - step};
+        for (int side = 0; side < 2; ++side) {
+            parameter = positions[side];
+            const bool ok = call_value();
+            parameter = at;
+            if (!ok) return std::nullopt;
+            std::copy_n(y_.begin() + 1, outputs, sides[side].begin());
         }
-        if (!std::isfinite(best)) return false;
+        Outputs slope{};
+        for (std::size_t d = 0; d < size(outputs); ++d) {
+            slope[d] = (sides[0][d] - sides[1][d]) / (positions[0] - positions[1]);
+        }
+        return slope;
+    };
+    double best = std::numeric_limits<double>::infinity();
+    double step = 1e-4 * std::max(std::fabs(at), 0.1);
+    for (int attempt = 0; attempt < 6; ++attempt, step /= 8) {
+        const auto wide = difference(step), narrow = difference(step / 2);
+        if (!wide || !narrow) continue;
+        double disagreement = 0;
+        bool settled = true;
+        for (std::size_t d = size(output_from); d < size(outputs); ++d) {
+            const double gap = std::fabs((*wide)[d] - (*narrow)[d]);
+            const double rounding = 1e-15 * std::fabs(result_[d + 1]) / step;
+            settled = settled && gap <= std::max(1e-7 * std::fabs((*narrow)[d]), rounding);
+            disagreement = std::max(disagreement, gap);
+        }
+        if (!std::isfinite(disagreement)) continue;
+        if (disagreement < best) {
+            best = disagreement;
+            for (int d = output_from; d < outputs; ++d) {
+                jacobian_(d, k) = (4 * (*narrow)[size(d)] - (*wide)[size(d)]) / 3;
+            }
+        }
+        if (settled) break;
+    }
+    return std::isfinite(best);
+}
+
+bool Evaluator::differentiate(int output_from) {
+    for (int k = 0; k < n_; ++k) {
+        if (!differentiate(output_from, k)) return false;
     }
     return true;
+}
+
+bool ColumnEvaluator::serves(const Model& model, int parameters, Derivatives source) {
+    return model.batch() && parameters <= ANSATZ_BATCH_MOST_PARAMS && source == Derivatives::best &&
+           model.analytic() && model.outputs() == 1;
+}
+
+ColumnEvaluator::ColumnEvaluator(const Model& model, const Eigen::MatrixXd& x, int parameters)
+    : x_(x), by_point_(model, Eigen::VectorXd::Zero(parameters)), model_(model.batch()), y_(x.rows()),
+      jacobian_(x.rows(), parameters), value_status_(size(x.rows())), status_(size(x.rows())) {
+    batch_.nParams = parameters;
+    batch_.nPoints = size(x.rows());
+    batch_.nX = model.inputs();
+    for (int i = 0; i < model.inputs(); ++i) {
+        batch_.x[i] = x.col(i).data();
+        batch_.xStride[i] = 1;
+    }
+    batch_.jacobian = jacobian_.data();
+    batch_.jacobianStride = parameters;
+}
+
+Eigen::Index ColumnEvaluator::compute(const Eigen::VectorXd& parameters) {
+    batch_.params = parameters.data();
+    batch_.request = FF_VALUE; // the derivative path may differ from it in the last digits of y
+    batch_.nY = 1;
+    batch_.y = y_.data();
+    batch_.yStride = 1;
+    batch_.status = value_status_.data();
+    ansatz_batch_run(model_, &batch_);
+    jacobian_.setZero(); // a model leaves the slots of a skipped peak untouched
+    batch_.request = FF_DERIV;
+    batch_.nY = 0;
+    batch_.status = status_.data();
+    ansatz_batch_run(model_, &batch_);
+
+    bool looked = false;
+    for (Eigen::Index i = 0; i < y_.size(); ++i) {
+        if (usable_at(i)) continue;
+        if (!looked) by_point_.set_parameters(parameters);
+        looked = true;
+        if (!by_point_.derivatives(x_, i)) return i;
+        y_[i] = by_point_.y(0);
+        for (Eigen::Index k = 0; k < jacobian_.cols(); ++k)
+            jacobian_(i, k) = by_point_.derivative(0, static_cast<int>(k));
+    }
+    return -1;
+}
+
+bool ColumnEvaluator::usable_at(Eigen::Index point) const {
+    if (value_status_[size(point)] != 0 || status_[size(point)] != 0 || !usable(y_[point])) return false;
+    const double* const row = jacobian_.row(point).data();
+    return std::all_of(row, row + jacobian_.cols(), usable);
 }
 
 bool Evaluation::all_ok() const {

@@ -31,6 +31,11 @@ std::size_t edit_distance(std::string_view a, std::string_view b) {
     return row.back();
 }
 
+/// A block's number is then set apart: the w1 of peak 2 is w1_2.
+bool digit_last(std::string_view symbol) {
+    return !symbol.empty() && std::isdigit(static_cast<unsigned char>(symbol.back()));
+}
+
 std::string unknown_model_message(const std::string& name, const std::vector<std::string>& nearest) {
     if (nearest.empty()) return fmt::format("unknown model '{}'", name);
     return fmt::format("unknown model '{}'; did you mean {}?", name, fmt::join(nearest, ", "));
@@ -91,7 +96,8 @@ Model::Model(std::string name, FitFunction routine, int independent, int depende
         if (text->block.empty()) default_size_ = static_cast<int>(text->parameters.size());
     }
     double nothing[2] = {};
-    analytic_ = function_(FF_QUERY_DERIV, 0, default_size_, 0, 0, nothing, 0, nothing, nothing, nothing) == 1;
+    analytic_ = function_(FF_QUERY_DERIV, 0, default_size_, 0, 0, nothing, 0, nothing, nothing, nothing) == 1 &&
+                (!description() || description()->true_derivatives);
 }
 
 Model Model::custom(std::string name, FitFunction routine, int independent, int dependent, int parameters,
@@ -106,7 +112,9 @@ std::optional<Model> Model::lookup(std::string_view name) {
     if (!routine) return std::nullopt;
     const auto known = std::ranges::find_if(model_names(), [&](const auto& n) { return same_name(n, name); });
     const std::string& spelling = known == model_names().end() ? text : *known;
-    return Model(spelling, routine, independent, dependent, parameters, describe(spelling));
+    Model model(spelling, routine, independent, dependent, parameters, describe(spelling));
+    model.batch_ = ansatz_batch_find(spelling.c_str());
+    return model;
 }
 
 Model Model::find(std::string_view name) {
@@ -180,7 +188,8 @@ std::vector<Slot> Model::slots(int n) const {
                 if (count == 1 && text->first_block == 1) {
                     add(symbol, meaning, role);
                 } else {
-                    add(fmt::format("{}{}", symbol, block + text->first_block), meaning, role);
+                    add(fmt::format("{}{}{}", symbol, digit_last(symbol) ? "_" : "", block + text->first_block),
+                        meaning, role);
                 }
             }
         }

@@ -24,8 +24,9 @@
  *   params     read only. A model of fixed size reads exactly the parameters of its row and ignores
  *              nParams; an expected-value model (name in EVP) reads further slots for its reference
  *              positions; a model of a varying number of peaks or terms derives the number from nParams.
- *   x          read only, with one exception: a surface model (two independent variables) that fails
- *              writes MISSING_VALUE into x[2].
+ *   x          read only, with one exception: a surface that fails writes MISSING_VALUE into x[2].
+ *              Surfaces are the models of two independent variables other than "Cole", "HillBurk",
+ *              "Ellipse" and "Circle".
  *   y          y[1] the value. y[2], y[3], ... each peak's own contribution, without the common offset
  *              (replicated peaks), or the second dependent variable (models with nDep == 2).
  *   dyda       dyda[k] the partial derivative of y[1] by params[k]. Slots that a call has no value for
@@ -33,7 +34,13 @@
  *
  * Failure. A parameter or an x outside the model's domain, a guarded division by zero, a range or a
  * domain error: the call returns 1 and writes MISSING_VALUE into y[1] and, on a derivative request, into
- * the derivative slots concerned. Nothing is ever raised, printed or allocated.
+ * the derivative slots concerned; a model with two dependent variables marks y[1] and y[2]. Nothing is
+ * ever raised, printed or allocated. Some models mark elsewhere, so look at the status first:
+ *   surfaces mark x[2] and not y[1], which keeps what was summed up to then; on a derivative request the
+ *   peak surfaces mark derivative slots besides;
+ *   "Weibull" and "Goldman" outside their domain mark y[2], and y[1] holds the offset, or 0;
+ *   "Laplace", "Poisson", "Weibull" and "Goldman" with too few parameters mark nothing;
+ *   implicit models ("Ellipse", "Circle", "PlaneMod") mark y[1] and return 0 all the same.
  *
  * The error indicator is errno: ERANGE after an overflow or a pole, EDOM after an argument outside
  * a function's domain, untouched by an underflow, on every platform alike. Set it to 0 before a call: no

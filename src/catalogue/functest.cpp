@@ -1,6 +1,7 @@
 // The developer test command: lists the catalogue and evaluates one model with a report.
 
 #include "catalogue/catalogue.h"
+#include "protocol/host_arithmetic.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -92,6 +93,7 @@ std::int32_t evaluate(const Report& report, const AnsatzTestRequest& request) {
 
 std::int32_t ANSATZ_CALL FuncTest(std::uint32_t message, void* window, AnsatzTestCallback callback,
                                   void* data) {
+    const ansatz::OwnArithmetic own_arithmetic;
     const ansatz::Report report{window, callback};
     switch (message) {
     case 1: return ansatz::list(report);

@@ -11,6 +11,7 @@
 // Values are the C library's own, bit for bit.
 #pragma once
 
+#include "protocol/c_library.h"
 #include "protocol/point.h"
 
 #include <cerrno>
@@ -102,44 +103,54 @@ inline bool ordinary(double r) {
     return r;
 }
 
+/// An ordinary result of a call that found the indicator at `before`.
+inline double accept(double r, int before) {
+    if constexpr (c_library::notes_false_errors) indicator() = before;
+    return r;
+}
+
 template <double (*f)(double)> inline double checked(double t) {
     const int before = indicator();
     const double r = f(t);
-    return ordinary(r) ? r : settle(r, before, std::isfinite(t), std::isnan(t));
+    return ordinary(r) ? accept(r, before) : settle(r, before, std::isfinite(t), std::isnan(t));
 }
 
 } // namespace detail
 
 // The library functions that models call, by their plain names.
 inline double exp(double t) {
-    return detail::checked<std::exp>(t);
+    return detail::checked<c_library::exp>(t);
 }
 inline double log(double t) {
-    return detail::checked<std::log>(t);
+    return detail::checked<c_library::log>(t);
 }
 inline double log1p(double t) {
-    return detail::checked<std::log1p>(t);
+    return detail::checked<c_library::log1p>(t);
 }
 inline double sqrt(double t) {
-    return detail::checked<std::sqrt>(t);
+    return detail::checked<c_library::sqrt>(t);
 }
 inline double sin(double t) {
-    return detail::checked<std::sin>(t);
+    return detail::checked<c_library::sin>(t);
 }
 inline double cos(double t) {
-    return detail::checked<std::cos>(t);
+    return detail::checked<c_library::cos>(t);
 }
 inline double tanh(double t) {
-    return detail::checked<std::tanh>(t);
+    return detail::checked<c_library::tanh>(t);
 }
 inline double acos(double t) {
-    return detail::checked<std::acos>(t);
+    return detail::checked<c_library::acos>(t);
+}
+
+inline double erfc(double t) {
+    return detail::checked<c_library::erfc>(t);
 }
 
 inline double pow(double a, double b) {
     const int before = indicator();
-    const double r = std::pow(a, b);
-    return detail::ordinary(r) ? r
+    const double r = c_library::pow(a, b);
+    return detail::ordinary(r) ? detail::accept(r, before)
                                : detail::settle(r, before, std::isfinite(a) && std::isfinite(b),
                                                 std::isnan(a) || std::isnan(b));
 }

@@ -10,6 +10,7 @@
 
 #include "protocol/errors.h"
 #include "protocol/guards.h"
+#include "protocol/host_arithmetic.h"
 #include "protocol/point.h"
 
 namespace ansatz {
@@ -45,7 +46,7 @@ inline Status answer_idle(Idle idle, unsigned flags) {
 
 template <Path value, Path derivatives, Answers answers = Answers{}> struct FormD {
     static Status serve(unsigned flags, const Point& at) {
-        if (answers.probe && flags & FF_PROBE) return answer_probe(at);
+        if (answers.probe && (flags & FF_PROBE)) return answer_probe(at);
         if (flags & FF_QUERY_DERIV) return answers.query;
         if (flags & FF_VALUE) {
             const Status status = value(at);
@@ -60,7 +61,7 @@ template <Path value, Path derivatives, Answers answers = Answers{}> struct Form
 
 template <Path value, Path derivatives, Answers answers = Answers{}> struct FormE {
     static Status serve(unsigned flags, const Point& at) {
-        if (answers.probe && flags & FF_PROBE) return answer_probe(at);
+        if (answers.probe && (flags & FF_PROBE)) return answer_probe(at);
         if (flags & FF_QUERY_DERIV) return answers.query;
         if (flags & FF_VALUE) return value(at);
         if (flags & FF_DERIV) return derivatives(at);
@@ -100,6 +101,7 @@ template <Path value> struct FormW {
 #define ANSATZ_MODEL(name, ...)                                                                                \
     ANSATZ_ROUTINE(name);                                                                                      \
     ANSATZ_ROUTINE(name) {                                                                                     \
+        const ansatz::OwnArithmetic own_arithmetic;                                                            \
         return __VA_ARGS__::serve(flags & 0xff,                                                                \
                                   ansatz::Point{static_cast<std::int16_t>(nParams), params, x, y, dyda});      \
     }

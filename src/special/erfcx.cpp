@@ -13,7 +13,7 @@ double erfcx(double b) {
         const double head = static_cast<float>(b);
         const double rest = (b - head) * (b + head);
         const double correction = 1 + rest * (1 + rest / 2 * (1 + rest / 3));
-        return exp(head * head) * correction * std::erfc(b);
+        return exp(head * head) * correction * erfc(b);
     }
     // 1/(b sqrt(pi)) (1 - 1/(2 b^2) + 3/(2 b^2)^2 - 15/(2 b^2)^3 ..); its terms decline for 64 steps at least.
     constexpr double sqrt_pi = 1.7724538509055161;

@@ -1,5 +1,5 @@
 // The gamma function, its logarithm and their derivatives, by a series of six terms: what "PearsonVII" is made
-// of. They err in the tenth digit; where more is needed, use the C library's lgamma.
+// of. They err in the tenth digit; where more is needed, use log_gamma.h.
 //
 // Like every function that models call, they report through the error indicator: ln_gamma is taken of positive
 // numbers, gamma_fn and gamma_prime overflow (a range error) above z = 171.6.

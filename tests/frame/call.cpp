@@ -26,11 +26,6 @@ bool same_bits(double a, double b) {
 
 namespace {
 
-/// NaNs that no computation makes: what outputs hold before a call, and what stands behind the inputs, so that
-/// a parameter read beyond those supplied poisons the result.
-const double canary = std::bit_cast<double>(std::uint64_t{0x7ffdeadbeefcafe0});
-const double poison = std::bit_cast<double>(std::uint64_t{0x7ffabad0bad0bad0});
-
 /// Notes which slots of an array differ from what they held.
 void note_changes(Outcome& outcome, const char* array, const std::array<double, slots>& now,
                   const std::array<double, slots>& before, std::size_t first = 0) {

@@ -4,6 +4,8 @@
 #include <ansatz/ansatz.h>
 
 #include <array>
+#include <bit>
+#include <cstdint>
 #include <map>
 #include <string>
 #include <vector>
@@ -19,6 +21,12 @@ struct Model {
 Model find(const std::string& name);
 
 inline constexpr int slots = 64;
+
+/// NaNs that no computation makes: what outputs hold before a call, and what stands behind the inputs, so that
+/// a parameter read beyond those supplied poisons the result.
+inline constexpr std::uint64_t canary_bits = 0x7ffdeadbeefcafe0, poison_bits = 0x7ffabad0bad0bad0;
+inline constexpr double canary = std::bit_cast<double>(canary_bits),
+                        poison = std::bit_cast<double>(poison_bits);
 
 struct Request {
     unsigned flags = FF_VALUE;

@@ -8,6 +8,9 @@
 
 namespace ansatz::test {
 
+/// Is this name of the list exported on this platform? _Ellipse@40 belongs to the Windows DLL alone.
+bool exported_here(const std::string& name);
+
 /// The names that the library exports.
 std::set<std::string> exported_names();
 

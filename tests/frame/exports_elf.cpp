@@ -20,6 +20,10 @@ std::vector<Entry> table(const std::string& file, std::size_t offset, std::size_
 
 } // namespace
 
+bool exported_here(const std::string& name) {
+    return !name.starts_with('_');
+}
+
 std::set<std::string> exported_names() {
     std::ifstream in(ANSATZ_LIBRARY, std::ios::binary);
     const std::string file{std::istreambuf_iterator<char>(in), {}};

@@ -33,6 +33,25 @@ protected:
         write("few.csv", "1 2\n2 3\n3 4\n");
         write("peak.csv", "sd;signal;position\n1;3;-2\n1;4;-1\n1;6;0\n1;4;1\n2;3;2\n2;2.5;3\n");
         write("empty.csv", "");
+        std::string surface = "east north height\n", circle = "east north\n", pair = "time warm loud\n",
+                    own = "dose depth uptake yield\n";
+        for (int i = 0; i < 36; ++i) {
+            const double t = 0.1 * i, wave = 0.01 * std::cos(7.0 * i);
+            const double x = i % 6, y = i / 6;
+            const auto line = [](std::initializer_list<double> numbers) {
+                std::ostringstream text;
+                for (const double number : numbers) text << number << " ";
+                return text.str() + "\n";
+            };
+            surface += line({x, y, 1 + 2 * x - y + wave});
+            circle += line({3 + (2 + wave) * std::cos(t), 1 + (2 + wave) * std::sin(t)});
+            pair += line({t, 1 + 2 * t + wave, 500 + 900 * std::exp(-t) + 1000 * wave});
+            own += line({t, 2 * t, 9 * t / (2 + t) + wave, (1 + t) / 3 - wave});
+        }
+        write("surface.txt", surface);
+        write("circle.txt", circle);
+        write("pair.txt", pair);
+        write("own.txt", own);
     }
     void TearDown() override { fs::remove_all(directory_); }
 
@@ -78,6 +97,11 @@ TEST_F(Command, RefusesWithOneClearLine) {
          "ragged.csv: line 2 has 3 columns, the lines before have 2"},
         {"fit Gauss few.csv --start 0,1,1,1", 2, "3 data value(s) cannot determine 4 free parameters"},
         {"fit Gauss e.csv", 2, "--start is required"},
+        {"fit ExpDec1 few.csv --start 0,1,0", 1,
+         "ansatz: ExpDec1 cannot be computed for the start values at x = 1"},
+        {"fit YldFert1 few.csv --start 1,1,-1", 1,
+         "the derivatives of YldFert1 cannot be computed for the start values at x = 1 (data point 1); "
+         "change them, or take numerical derivatives"},
         {"fit Gauss e.csv --start 0,450,10", 2, "4 or 7 parameters and so on, 3 given"},
         {"fit Gauss e.csv --start 0,450,wide,4", 2, "--start: 'wide' is not a number"},
         {"fit Gauss e.csv --start xc=450,w=10", 2, "--start: no value for y0, A"},
@@ -88,6 +112,10 @@ TEST_F(Command, RefusesWithOneClearLine) {
         {"fit Gauss e.csv --start 0,450,10,4 --y height", 2, "no column 'height'; the columns are wavelength"},
         {"fit Gauss e.csv --start 0,450,10,4 --errors 3", 2, "no column 3"},
         {"fit Gauss e.csv --start 0,450,10,4 --plot fit.pdf", 2, "'fit.pdf' must end in .svg or .png"},
+        {"fit PlaneMod surface.txt --start 1,1,1 --plot fit.svg", 2,
+         "PlaneMod has 3 x columns, and there is no picture for that"},
+        {"fit Circle circle.txt --start 3,1,1 --y 2", 2, "--y: Circle needs 0 column(s), 1 given"},
+        {"fit LineExp circle.txt --start 1,1,1,1,1", 2, "circle.txt: LineExp needs 2 y column(s)"},
         {"fit Gauss e.csv --start 0,450,0,4", 1, "at x = 400 (data point 1)"},
         {"fit Gauss e.csv --start 0,450,10,4 --max-iterations 1", 1, "the fit did not converge"},
         {"fit Prunty e.csv --start 1,2,3,4", 2, "reserved name that computes nothing"},
@@ -180,4 +208,33 @@ TEST_F(Command, DrawsWithGnuplotOrSaysThatItIsMissing) {
     EXPECT_NE(read("fit.svg").find("transmittance"), std::string::npos);
     ASSERT_EQ(run(fit + "png").status, 0);
     EXPECT_TRUE(read("fit.png").starts_with("\x89PNG"));
+}
+
+TEST_F(Command, DrawsEveryShape) {
+    if (std::system("command -v gnuplot >/dev/null") != 0) GTEST_SKIP() << "gnuplot is not installed";
+    const struct {
+        const char* arguments;
+        std::vector<const char*> words;
+    } cases[] = {
+        {"fit Plane surface.txt --start 0,0,0",
+         {"Fit of Plane", "east", "north", "height above the fit", "residuals"}},
+        {"fit Circle circle.txt --start 3,1,1", {"Fit of Circle", "east", "north", "residual", "data point"}},
+        {"fit LineExp pair.txt --start 1,1,500,900,-1", {"LineExp, y1", "LineExp, y2", "time", "warm", "loud"}},
+        {"fit HillBurk own.txt --start 8,1,2,1", {"HillBurk, y2", "dose", "depth", "yield"}},
+    };
+    for (const auto& [arguments, words] : cases) {
+        const Outcome outcome = run(std::string(arguments) + " --plot shape.svg");
+        EXPECT_EQ(outcome.status, 0) << arguments << outcome.err;
+        EXPECT_EQ(outcome.err, "") << arguments; // gnuplot has nothing to complain about
+        const std::string picture = read("shape.svg");
+        for (const char* word : words) EXPECT_NE(picture.find(word), std::string::npos) << arguments << word;
+        fs::remove(directory_ / "shape.svg");
+    }
+}
+
+TEST_F(Command, TellsOfColumnsThatScatterDifferently) {
+    const std::string fit = "fit LineExp pair.txt --start 1,1,500,900,-1";
+    EXPECT_NE(run(fit).out.find("times as much as warm"), std::string::npos) << run(fit).out;
+    write("equal.csv", "x,u,v\n0,1,9.01\n1,2.01,5\n2,2.99,3.01\n3,4.01,2\n4,5,1.5\n");
+    EXPECT_EQ(run("fit LineExp equal.csv --start 1,1,1,8,-1.5").out.find("scatters"), std::string::npos);
 }

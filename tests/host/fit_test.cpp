@@ -1,6 +1,7 @@
 // Fits with known answers: certified values, closed forms, exact data.
 
 #include "custom_models.hpp"
+#include "eckerle4.hpp"
 
 #include <ansatz/host/fit.hpp>
 
@@ -19,14 +20,8 @@ void expect_relative(double actual, double expected, double tolerance, const cha
 }
 
 Data eckerle4() {
-    return {.x = vector({400,   405, 410,   415, 420,   425, 430,   435, 436.5, 438, 439.5, 441,
-                         442.5, 444, 445.5, 447, 448.5, 450, 451.5, 453, 454.5, 456, 457.5, 459,
-                         460.5, 462, 463.5, 465, 470,   475, 480,   485, 490,   495, 500}),
-            .y = vector({0.0001575, 0.0001699, 0.0002350, 0.0003102, 0.0004917, 0.0008710, 0.0017418,
-                         0.0046400, 0.0065895, 0.0097302, 0.0149002, 0.0237310, 0.0401683, 0.0712559,
-                         0.1264458, 0.2073413, 0.2902366, 0.3445623, 0.3698049, 0.3668534, 0.3106727,
-                         0.2078154, 0.1164354, 0.0616764, 0.0337200, 0.0194023, 0.0117831, 0.0074357,
-                         0.0022732, 0.0008800, 0.0004579, 0.0002345, 0.0001586, 0.0001143, 0.0000710})};
+    return {.x = Eigen::Map<const Eigen::VectorXd>(eckerle4_x.data(), std::ssize(eckerle4_x)),
+            .y = Eigen::Map<const Eigen::VectorXd>(eckerle4_y.data(), std::ssize(eckerle4_y))};
 }
 
 /// The certified fit of (b1/b2) exp(-0.5 ((x - b3)/b2)^2), in the terms of "Gauss" with its offset held at 0.
@@ -168,6 +163,94 @@ TEST(Covariance, OfARedundantModelIsRefusedByName) {
     for (const Estimate& parameter : result.parameters) EXPECT_FALSE(parameter.error);
 }
 
+TEST(Runaway, FromABoldFirstStepIsTriedAgainWithCare) {
+    // From here the first full step makes the rate so high that every point lies on the plateau.
+    const Data data{.x = vector({1, 2, 3, 5, 7, 10}), .y = vector({109, 149, 149, 191, 213, 224})};
+    const Model model = Model::find("BoxLucas1");
+    std::vector<int> seen;
+    const auto watch = [&](const Progress& progress) {
+        seen.push_back(progress.iteration);
+        return true;
+    };
+    const Fit result = fit(model, data, starts(model, {1, 1}), {.progress = watch});
+    EXPECT_TRUE(result.converged);
+    expect_relative(result.parameters[1].value, 5.4723748542e-1, 1e-9, "rate");
+    EXPECT_TRUE(std::ranges::is_sorted(seen)) << "iterations count on through the second attempt";
+    EXPECT_EQ(seen.back(), result.iterations);
+
+    // The limit of iterations is one for both attempts.
+    const Fit limited = fit(model, data, starts(model, {1, 1}), {.max_iterations = result.iterations - 1});
+    EXPECT_LT(limited.iterations, result.iterations);
+    // Where the plateau is what the data show, its level is their mean.
+    const Data level{.x = data.x, .y = vector({5, 5.1, 4.9, 5, 5.1, 4.9})};
+    EXPECT_NEAR(fit(model, level, starts(model, {1, 1})).rss, 0.04, 1e-9);
+}
+
+TEST(Runaway, IsNotSoughtInARedundantModel) {
+    const Regression line;
+    int restarts = -1; // every attempt begins with an iteration that has taken no step
+    int last = -1;
+    const auto watch = [&](const Progress& progress) {
+        restarts += progress.iteration <= last || last < 0;
+        last = progress.iteration;
+        return true;
+    };
+    const Fit result =
+        fit(custom::redundant(), line.data, starts(custom::redundant(), {0, 0, 0}), {.progress = watch});
+    EXPECT_TRUE(result.converged);
+    EXPECT_EQ(restarts, 0);
+}
+
+TEST(Bounds, ThatTheWayComesUponAreLeftAgain) {
+    const Model shah = Model::find("Shah");
+    Data data{.x = Eigen::VectorXd::LinSpaced(11, 0, 10), .y = Eigen::VectorXd(11)};
+    for (int i = 0; i < 11; ++i) data.y(i) = 1 + 0.5 * i + 3 * std::pow(0.5, i) + (i % 3 - 1) / 8.0;
+    const Fit free = fit(shah, data, starts(shah, {1, 0.5, 3, 0.5}));
+    ASSERT_TRUE(free.converged);
+    // All within these bounds, and yet a full step from here leads out of them, where its rest points uphill.
+    for (const auto& guess :
+         {std::vector{5.0, 0.0, 0.0, 0.99}, {0.0, -5.0, -5.0, 0.99}, {5.0, 3.0, -5.0, 0.99}}) {
+        auto start = starts(shah, guess);
+        const double lower[] = {-5, -5, -5, 0.01}, upper[] = {5, 3, 8, 0.99};
+        for (std::size_t k = 0; k < 4; ++k) start[k].lower = lower[k], start[k].upper = upper[k];
+        const Fit bounded = fit(shah, data, start);
+        EXPECT_TRUE(bounded.converged) << bounded.termination;
+        for (std::size_t k = 0; k < 4; ++k) {
+            expect_relative(bounded.parameters[k].value, free.parameters[k].value, 1e-9, "parameter");
+        }
+    }
+}
+
+// The columns of the Jacobian are so short here that the inverse of its square overflows.
+TEST(Covariance, OfAnAllButFlatModelIsRefused) {
+    const Model model = Model::find("Freundlich");
+    const Data data{.x = vector({0.1, 0.101, 0.102}), .y = vector({1, 2, 4})};
+    const Fit result = fit(model, data, starts(model, {1, 158}), {.max_iterations = 0});
+    EXPECT_EQ(result.covariance.size(), 0);
+    EXPECT_EQ(result.undetermined, (std::vector<int>{0, 1}));
+    for (const Estimate& parameter : result.parameters) EXPECT_FALSE(parameter.error);
+}
+
+// The routine's own derivatives are those of the law times the distance of the references: with them the
+// standard errors would be that much too small, and descending references would lead every step uphill.
+TEST(UntrueDerivatives, AreReplacedByDifferences) {
+    const Model line = Model::find("Log2P2"), expected = Model::find("Log2P2EVP");
+    const Data data{.x = vector({0, 1, 2, 4, 7, 8}), .y = vector({0.75, 1.2, 1.65, 2.05, 2.55, 2.6})};
+    EXPECT_TRUE(line.analytic());
+    EXPECT_FALSE(expected.analytic());
+    const Fit plain = fit(line, data, starts(line, {1, 1}));
+    const double a = plain.parameters[0].value;
+    for (const auto& guess : {std::vector{0.0, 1.0, 8.0, 3.0}, {8.0, 3.0, 0.0, 1.0}}) {
+        const Fit result = fit(expected, data, starts(expected, guess));
+        const Estimate& at_zero = result.parameters[guess[0] == 0 ? 1 : 3]; // the response at x = 0 is ln a
+        EXPECT_TRUE(result.converged) << result.termination;
+        expect_relative(result.rss, plain.rss, 1e-10, "residual sum of squares");
+        expect_relative(at_zero.value, std::log(a), 1e-8, "response at 0");
+        ASSERT_TRUE(at_zero.error && plain.parameters[0].error);
+        expect_relative(*at_zero.error, *plain.parameters[0].error / a, 1e-6, "its error");
+    }
+}
+
 TEST(Failure, AtTheStartNamesThePoint) {
     Eigen::MatrixXd x(3, 2);
     x << 1, 1, -4, 2, 3, 5;
@@ -194,6 +277,7 @@ TEST(Failure, ShortOfAMinimumIsNoConvergence) {
     const Fit stuck = fit(custom::misleading(), data, starts(custom::misleading(), {0}));
     EXPECT_FALSE(stuck.converged);
     EXPECT_NEAR(stuck.relative_offset, 1, 0.01);
+    EXPECT_NE(stuck.termination.find("numerical"), std::string::npos) << stuck.termination;
     const auto start = starts(custom::misleading(), {0});
     EXPECT_TRUE(fit(custom::misleading(), data, start, {.derivatives = Derivatives::numerical}).converged);
     // Exact data leave nothing but rounding in the residuals, in whatever direction.
@@ -213,4 +297,45 @@ TEST(Failure, OfTheRequestIsAnError) {
     EXPECT_THROW(fit(model, {.x = vector({1}), .y = vector({1})}, starts(model, {0, 0})), Error);
     EXPECT_THROW(fit(model, {.x = vector({1, 2}), .y = vector({1})}, starts(model, {0, 0})), Error);
     EXPECT_THROW(fit(model, line.data, starts(model, {0, 0, 0, 0, std::nan("")})), Error);
+}
+
+TEST(Columns, GiveTheFitThatSingleCallsGive) {
+    // A routine of the caller's own is called point by point, a model of the catalogue for whole columns.
+    for (const auto& [name, guess] : {std::pair{"Gauss", std::vector{0.0, 450.0, 10.0, 4.0}},
+                                      std::pair{"GaussAmp", std::vector{0.0, 452.0, 5.0, 0.4}}}) {
+        const Model model = Model::find(name);
+        const Model custom = Model::custom(name, model.function(), 1, 1, 4, model.description());
+        ASSERT_TRUE(ColumnEvaluator::serves(model, 4, Derivatives::best));
+        ASSERT_FALSE(ColumnEvaluator::serves(custom, 4, Derivatives::best));
+        const Fit together = fit(model, eckerle4(), starts(model, guess));
+        const Fit singly = fit(custom, eckerle4(), starts(custom, guess));
+        EXPECT_TRUE(together.converged);
+        EXPECT_EQ(together.rss, singly.rss);
+        EXPECT_EQ(together.evaluations, singly.evaluations);
+        EXPECT_EQ(together.values(), singly.values());
+        EXPECT_EQ(together.fitted, singly.fitted);
+    }
+}
+
+TEST(Columns, LookCloserWhereADerivativeIsMissing) {
+    // At its centre the derivatives of Power0 by centre and exponent are marked, with status 0, and the host
+    // takes differences there.
+    const Model model = Model::find("Power0");
+    const Eigen::MatrixXd x = vector({-1, 0.5, 2});
+    const Eigen::VectorXd P = vector({1, 0.5, 2, 3});
+    ColumnEvaluator columns(model, x, 4);
+    EXPECT_EQ(columns.compute(P), -1);
+    Evaluator by_point(model, P);
+    for (Eigen::Index i = 0; i < 3; ++i) {
+        ASSERT_TRUE(by_point.derivatives(x, i));
+        EXPECT_EQ(columns.y()[i], by_point.y(0));
+        for (int k = 0; k < 4; ++k)
+            EXPECT_EQ(columns.derivative(i, k), by_point.derivative(0, k)) << i << ", P" << k + 1;
+    }
+}
+
+TEST(Columns, NameTheFirstPointThatFails) {
+    const Eigen::MatrixXd x = vector({1, 2, -1, 3, -2}); // Hill fails for x < 0
+    ColumnEvaluator columns(Model::find("Hill"), x, 3);
+    EXPECT_EQ(columns.compute(vector({1, 2, 1.5})), 2);
 }

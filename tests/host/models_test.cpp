@@ -75,6 +75,8 @@ TEST(Parameters, AreNumberedByPeakOnlyWithSeveralPeaks) {
     const Model gauss = Model::find("Gauss");
     EXPECT_EQ(symbols(gauss, 4), (std::vector<std::string>{"y0", "xc", "w", "A"}));
     EXPECT_EQ(symbols(gauss, 7), (std::vector<std::string>{"y0", "xc1", "w1", "A1", "xc2", "w2", "A2"}));
+    EXPECT_EQ(symbols(Model::find("BiGaussian"), 9),
+              (std::vector<std::string>{"y0", "xc1", "H1", "w1_1", "w2_1", "xc2", "H2", "w1_2", "w2_2"}));
     EXPECT_EQ(symbols(custom::series(), 1), (std::vector<std::string>{"a0"}));
     EXPECT_EQ(symbols(custom::line(), 2), (std::vector<std::string>{"P1", "P2"}));
 }
@@ -133,6 +135,30 @@ TEST(Evaluation, DifferencesAgreeWithTheModelsOwnDerivatives) {
                 << name << " P" << k + 1;
         }
     }
+}
+
+TEST(Evaluation, TakesDifferencesWhereAModelHasNoTrueDerivatives) {
+    // Offered and never computed; another function; the wrong sign.
+    const auto reich = evaluate(Model::find("Reich"), vector({3, 0.5, 2, 0.25}), vector({2}), true);
+    EXPECT_NEAR(reich.jacobian[0](0, 1), -6 * std::exp(-1), 1e-9);
+    EXPECT_NEAR(reich.jacobian[0](0, 2), std::exp(-0.5), 1e-9);
+    const auto reciprocal = evaluate(Model::find("Reciprocal0"), vector({0.5}), vector({2}), true);
+    EXPECT_NEAR(reciprocal.jacobian[0](0, 0), -0.5, 1e-9);
+    const auto logarithm = evaluate(Model::find("LogarithmEVP"), vector({1, 0}), vector({4}), true);
+    EXPECT_NEAR(logarithm.jacobian[0](0, 1), -0.5, 1e-9);
+    const auto asymptotic = evaluate(Model::find("Asymptotic5"), vector({2, 1, 5}), vector({0}), true);
+    EXPECT_NEAR(asymptotic.jacobian[0](0, 2), 1, 1e-9);
+}
+
+TEST(Evaluation, FillsADerivativeThatASuccessLeavesOpen) {
+    // At x = 0 the value is the offset; the logarithm in the last derivative does not exist.
+    const auto isotherm = evaluate(Model::find("Freundlich3PMod"), vector({5, 2, 3}), vector({0, 1}), true);
+    EXPECT_TRUE(isotherm.all_ok());
+    EXPECT_EQ(isotherm.jacobian[0].row(0), Eigen::RowVector3d(1, 0, 0));
+    // With a rate of 0 the derivative is marked; it is 1.
+    const auto density = evaluate(Model::find("Exp1P3"), vector({0}), vector({3}), true);
+    EXPECT_TRUE(density.all_ok());
+    EXPECT_NEAR(density.jacobian[0](0, 0), 1, 1e-9);
 }
 
 TEST(Evaluation, OfTwoOutputsCompletesTheDerivatives) {

@@ -13,7 +13,7 @@
 //   no derivative is computed. The derivative by P1 is not a number at P1 == 0. A call that requests nothing
 //   returns 1.
 
-#include "protocol/forms.h"
+#include "models/distributions/answers.h"
 
 namespace ansatz::goldman {
 namespace {
@@ -56,5 +56,5 @@ Status derivatives(const Point& at) {
 } // namespace
 } // namespace ansatz::goldman
 
-ANSATZ_MODEL(Goldman, ansatz::FormE<ansatz::goldman::value, ansatz::goldman::derivatives,
-                                    {.query = 0, .idle = ansatz::Idle::one}>)
+ANSATZ_MODEL(Goldman,
+             ansatz::FormE<ansatz::goldman::value, ansatz::goldman::derivatives, ansatz::distribution::values>)

@@ -7,7 +7,7 @@
 //   Fails for P2 == 0 and where the inner exponential overflows, from about 709 scales above the location on.
 //   No derivatives; a derivative request, and a call that requests nothing, return 1.
 
-#include "protocol/forms.h"
+#include "models/distributions/answers.h"
 
 namespace ansatz::gumbel {
 namespace {
@@ -22,4 +22,4 @@ Status value(const Point& at) {
 } // namespace
 } // namespace ansatz::gumbel
 
-ANSATZ_MODEL(Gumbel, ansatz::FormV<ansatz::gumbel::value, {.query = 0, .idle = ansatz::Idle::one}>)
+ANSATZ_MODEL(Gumbel, ansatz::FormV<ansatz::gumbel::value, ansatz::distribution::values>)

@@ -8,7 +8,7 @@
 //   upside down. Needs nParams >= 3: with fewer the call returns 1 and y = P1, without a marker. More than
 //   three parameters still make one term. No derivatives.
 
-#include "protocol/forms.h"
+#include "models/distributions/answers.h"
 
 namespace ansatz::laplace {
 namespace {
@@ -28,4 +28,4 @@ Status value(const Point& at) {
 } // namespace
 } // namespace ansatz::laplace
 
-ANSATZ_MODEL(Laplace, ansatz::FormV<ansatz::laplace::value, {.query = 0, .idle = ansatz::Idle::one}>)
+ANSATZ_MODEL(Laplace, ansatz::FormV<ansatz::laplace::value, ansatz::distribution::values>)

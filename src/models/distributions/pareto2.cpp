@@ -8,7 +8,7 @@
 //   with a broken P1; for the derivatives any P2 <= 0, whose logarithm does not exist. One path per call: with
 //   FF_VALUE no derivative is computed. A call that requests nothing returns 1.
 
-#include "protocol/forms.h"
+#include "models/distributions/answers.h"
 
 namespace ansatz::pareto2 {
 namespace {
@@ -38,5 +38,6 @@ Status derivatives(const Point& at) {
 } // namespace
 } // namespace ansatz::pareto2
 
-ANSATZ_MODEL(Pareto2, ansatz::FormE<ansatz::pareto2::value, ansatz::pareto2::derivatives,
-                                    {.query = 1, .idle = ansatz::Idle::one}>)
+ANSATZ_MODEL(
+    Pareto2,
+    ansatz::FormE<ansatz::pareto2::value, ansatz::pareto2::derivatives, ansatz::distribution::with_derivatives>)

@@ -5,11 +5,12 @@
 //   x number of events, not necessarily whole; P1 offset, P2 mean number of events. y[2] is the probability
 //   alone, without the offset.
 //
-//   Fails on a range or domain error: x above 170, where the factorial overflows; x = -1, -2, ..., where Gamma
-//   has its poles; a negative mean with a broken x. Below x = -1 the absolute value of Gamma is taken. Needs
-//   nParams >= 2: with fewer the call returns 1 and y = P1, without a marker. No derivatives.
+//   Fails on a range or domain error: x above 170, where the factorial overflows; a mean whose power does, as
+//   200^150; x = -1, -2, ..., where Gamma has its poles; a negative mean with a broken x. Below x = -1 the
+//   absolute value of Gamma is taken. Needs nParams >= 2: with fewer the call returns 1 and y = P1, without a
+//   marker. No derivatives.
 
-#include "protocol/forms.h"
+#include "models/distributions/answers.h"
 #include "special/log_gamma.h"
 
 namespace ansatz::poisson {
@@ -31,4 +32,4 @@ Status value(const Point& at) {
 } // namespace
 } // namespace ansatz::poisson
 
-ANSATZ_MODEL(Poisson, ansatz::FormV<ansatz::poisson::value, {.query = 0, .idle = ansatz::Idle::one}>)
+ANSATZ_MODEL(Poisson, ansatz::FormV<ansatz::poisson::value, ansatz::distribution::values>)

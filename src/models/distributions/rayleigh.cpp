@@ -8,7 +8,7 @@
 //   found it. One path per call: with FF_VALUE no derivative is computed. A call that requests nothing
 //   returns 1.
 
-#include "protocol/forms.h"
+#include "models/distributions/answers.h"
 
 namespace ansatz::rayleigh {
 namespace {
@@ -34,4 +34,4 @@ Status derivatives(const Point& at) {
 } // namespace ansatz::rayleigh
 
 ANSATZ_MODEL(Rayleigh, ansatz::FormE<ansatz::rayleigh::value, ansatz::rayleigh::derivatives,
-                                     {.query = 1, .idle = ansatz::Idle::one}>)
+                                     ansatz::distribution::with_derivatives>)

@@ -10,7 +10,7 @@
 //   way, with the marker in y[1]. Needs nParams >= 4: with fewer the call returns 1 and y = P1. No derivatives:
 //   asked for them alone it returns 1 and y = P1.
 
-#include "protocol/forms.h"
+#include "models/distributions/answers.h"
 
 namespace ansatz::weibull {
 namespace {
@@ -49,5 +49,6 @@ Status refuse_with_offset(const Point& at) {
 } // namespace
 } // namespace ansatz::weibull
 
-ANSATZ_MODEL(Weibull, ansatz::FormV<ansatz::weibull::value, {.query = 0, .idle = ansatz::Idle::one},
-                                    ansatz::weibull::refuse_with_offset>)
+ANSATZ_MODEL(
+    Weibull,
+    ansatz::FormV<ansatz::weibull::value, ansatz::distribution::values, ansatz::weibull::refuse_with_offset>)

@@ -6,11 +6,12 @@
 //   x). A negative time constant is accepted: the phase then falls ever faster.
 //
 //   Fails where a time constant is 0 and on an overflow. A failure of the derivatives leaves the slots as far
-//   as they were written. When the value overlooks a time constant of 0 differs:
+//   as they were written. The derivatives fail for every time constant of 0, the values forgive some:
 //
-//   ExpAssoc    skips each phase of amplitude 0. It leaves the second phase out below 4 parameters, though its
-//               derivatives never do, and fails for nParams <= 0.
-//   ExpAssoc2   is P1 where both amplitudes are 0; one of them alone changes nothing.
+//   ExpAssoc    skips each phase of amplitude 0, whatever its time constant. It leaves the second phase out
+//               below 4 parameters, though its derivatives do not, and fails for nParams <= 0.
+//   ExpAssoc2   is P1 where both amplitudes are 0, whatever the time constants; a single amplitude of 0
+//               forgives nothing.
 
 #include "protocol/forms.h"
 

@@ -6,7 +6,7 @@
 //   positive: growth, negative: decay).
 //
 //   Fails on an overflow of the exponential, even with an amplitude of 0. The value also fails where P3 x >
-//   1000, which tells from an overflow only where P3 x is infinite: there the derivatives still answer.
+//   1000, an overflow anyway unless P3 x is infinite: there the derivatives still answer, with infinities.
 
 #include "protocol/forms.h"
 

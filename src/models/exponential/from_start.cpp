@@ -76,7 +76,7 @@ template <int terms> Status decay_derivatives(const Point& at) {
         if (P[time_constant(i)] <= 0) return fail_all(at, slots);
     }
     const double d = x[1] - P[2];
-    double sum = P[1], by_start = 0;
+    double sum = P[1], by_start = -0.0; // so that a term of -0 stays -0
     for (int i = 1; i <= terms; ++i) {
         const double A = P[amplitude(i)], T = P[time_constant(i)];
         const double u = d / T, rate = A / T;
@@ -105,7 +105,7 @@ template <int terms> Status growth_derivatives(const Point& at) {
         dyda[amplitude(i)] = e[i] = safe_exp(d / P[time_constant(i)]);
         if (math_error()) return fail(at);
     }
-    double sum = P[1], by_start = 0;
+    double sum = P[1], by_start = -0.0; // so that a term of -0 stays -0
     for (int i = 1; i <= terms; ++i) {
         const double term = P[amplitude(i)] * e[i], T = P[time_constant(i)];
         const double slope = term / T;

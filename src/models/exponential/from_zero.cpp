@@ -7,10 +7,10 @@
 //   x = 0, and time T (unit of x): P2, P3, then P4, P5, then P6, P7. A negative time is accepted: a decay then
 //   grows, a growth decays.
 //
-//   Fails where a time is 0 and on an overflow. The value of ExpGro1 also fails where x/P3 > 1000, which tells
-//   from an overflow only where the quotient is infinite. Where all amplitudes are 0 the value is P1, whatever
-//   the times; the derivatives still fail for a time of 0. A failure of the derivatives leaves the slots as far
-//   as they were written.
+//   Fails where a time is 0 and on an overflow. The value of ExpGro1 also fails where x/P3 > 1000, an overflow
+//   anyway unless the quotient is infinite. Where all amplitudes are 0 the value is P1, whatever the times; the
+//   derivatives still fail for a time of 0. A failure of the derivatives leaves the slots as far as they were
+//   written.
 
 #include "protocol/forms.h"
 

@@ -10,7 +10,8 @@
 //   The expected-value form is Log2P2 with the line through (P1, e^P2) and (P3, e^P4).
 //
 //   Its derivatives divide the exponentials by q where the calculus has q (P3 - P1). So they are the true ones
-//   only where P3 - P1 == 1: choose the reference positions one unit of x apart, the lower one first.
+//   only where P3 - P1 == 1: choose the reference positions one unit of x apart, the lower one first, or have
+//   the host take differences of the value.
 
 #include "models/handbook/law.h"
 

@@ -6,9 +6,10 @@
 //   P1 offset, P2 centre, P3 area of the Gaussian, P4 area of the Lorentzian, P5 width of the Gaussian (twice
 //   its standard deviation), P6 width of the Lorentzian (full width at half maximum).
 //
-//   Widths are not tested: 0 makes an output infinite or not a number, with status 0, and a negative one turns
-//   its peak upside down. A failure, which only an error indicator left set by the caller can cause, marks both
-//   outputs. No derivatives; a derivative request alone returns 0 and writes nothing.
+//   Widths are not tested: P5 == 0 makes y[1] not a number, P6 == 0 leaves y[2] at the offset (at the centre:
+//   not a number), both with status 0; a negative width turns its peak upside down. A failure, which only an
+//   error indicator left set by the caller can cause, marks both outputs. No derivatives; a derivative request
+//   alone returns 0 and writes nothing.
 
 #include "models/multi/missing_fill.h"
 

@@ -5,7 +5,7 @@
 //   P1 and P2 offsets of the line and of the exponential, P3 slope, P4 amplitude, P5 scale of x (same unit;
 //   negative: decay).
 //
-//   An overflow of the exponential fails both outputs. P5 == 0 is not tested: for x > 0 it makes y[2] infinite
+//   An overflow of the exponential fails both outputs. P5 == 0 is not tested: for x >= 0 it makes y[2] infinite
 //   or not a number, with status 0. No derivatives; a derivative request alone returns 0 and writes nothing.
 
 #include "models/multi/missing_fill.h"

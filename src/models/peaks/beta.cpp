@@ -6,8 +6,8 @@
 //   P1 offset; then per peak: centre c, amplitude A (the height, reached at c), width w (of the whole support,
 //   which begins w (p-1)/r left of c), shapes p and q (left and right flank). Blocks: see blocks.h.
 //
-//   0 outside the support. Fails per peak for w <= 0, p <= 1 and q <= 1; also, for shapes above about 700,
-//   where one power alone overflows far down a flank.
+//   0 outside the support. Fails per peak for w <= 0, p <= 1 and q <= 1. The powers are taken together, through
+//   their logarithms: for steep shapes one of them alone would overflow down a flank where the peak is small.
 
 #include "models/peaks/blocks.h"
 

@@ -6,9 +6,10 @@
 //   The number of peaks is (nParams - 1) / 3; parameters behind the last whole peak are ignored.
 //   y[i+1] is peak i alone, without the offset.
 //
-//   Fails for nParams <= 0 and on an overflow, and per peak for a width of 0. A negative width is accepted for
-//   the value, where it turns the peak upside down, and fails for the derivatives. A peak of area 0 is skipped:
-//   its component keeps what it held, its derivatives are 0.
+//   Fails for nParams <= 0, and per peak for a width of 0 and on an error pending on entry; the derivatives let
+//   a domain error pass. A negative width is accepted for the value, where it turns the peak upside down, and
+//   fails for the derivatives. A peak of area 0 is skipped: its component keeps what it held, its derivatives
+//   are 0.
 
 #include "protocol/forms.h"
 

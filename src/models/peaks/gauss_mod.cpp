@@ -25,7 +25,7 @@ struct Peak {
         const double A = p[0], c = p[1], w = p[2], t = p[3];
         const double d = x - c, z = d / w, ratio = w / t;
         const double b = (ratio - z) / sqrt_2;
-        if (b < 0) return A / (2 * t) * safe_exp(0.5 * (ratio * ratio) - d / t) * std::erfc(b);
+        if (b < 0) return A / (2 * t) * safe_exp(0.5 * (ratio * ratio) - d / t) * erfc(b);
         return A / (2 * t) * safe_exp(-0.5 * (z * z)) * erfcx(b);
     }
 };

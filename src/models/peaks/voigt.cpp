@@ -14,7 +14,8 @@
 //   Values only: take numerical derivatives. A peak of area 0 is skipped, whatever its widths: its component
 //   keeps what it held. Fails for nParams < 1, and in the pseudo-Voigts for a width <= 0. Voigt5 fails only
 //   for a width of exactly 0: negative widths give a number, though no peak that means anything, and a purely
-//   Gaussian peak is beyond it.
+//   Gaussian peak is beyond it. Its V errs by up to 2.4e-6 of the height of V (measured for wL/wG from 0.001 to
+//   100).
 //
 //   Voigt5 sees its first peak right. To every further peak it adds the Voigt function of the peak computed
 //   before it, unless the further peak is seen from far in its Gaussian wing (region II below, |X| < 12):

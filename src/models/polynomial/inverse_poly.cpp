@@ -3,7 +3,8 @@
 //   y = P1 + sum over the peaks of  A / (1 + a1 z + a2 z^2 + a3 z^3),  z = (2 (x - c) / w)^2
 //
 //   P1 offset; then per peak six parameters: centre c, width w, amplitude A, coefficients a1, a2, a3. Where
-//   only a1 differs from 0 and is 1, the peak is a Lorentzian of the full width w at half maximum.
+//   only a1 differs from 0 and is 1, the peak is a Lorentzian of the full width w at half maximum. The width is
+//   redundant with the coefficients: a fit should hold one of them fixed.
 //
 //   The number of peaks is (nParams - 1) / 6; parameters behind the last whole peak are ignored. y[i+1] is peak
 //   i alone, without the offset.

@@ -2,7 +2,7 @@
 //
 //   Boltzman1      y = P2 + (P1 - P2) / (1 + 10^(P3 - x))         rises from P2 to P1
 //   Competition1   y = P2 + (P1 - P2) / (1 + 10^(x - P3))         falls from P1 to P2
-//     P1 top, P2 bottom, P3 logarithm of the half-way dose; the slope is fixed at one decade per decade
+//     P1 top, P2 bottom, P3 logarithm of the half-way dose; the slope is fixed: one site
 //   Response1      y = P1 + (P2 - P1) / (1 + 10^((P3 - x) P4))    rises from P1 to P2
 //     P1 bottom, P2 top, P3 logarithm of the half-way dose, P4 slope
 //
@@ -12,9 +12,9 @@
 //   The value fails for nParams <= 0. Response1 further wants P4 != 0 and P2 > P1 for the value, but for the
 //   derivatives only a slope of at least 1e-18 in size (y alone is marked).
 //
-//   Where the power overflows the curve is at the level it comes from: P2, for Response1 P1. The slopes are
-//   then 0, 1, 0, ..; for Response1, whose limit is P1, true ones would be 1, 0, 0, 0. Such points lie some 300
-//   decades out. A pending domain error gives the value the same level; the derivatives pass it by.
+//   Where the power overflows, for common slopes some 300 decades out, y is the bottom level: P2, for Response1
+//   P1. The slopes are then 0, 1, 0, ..; for Response1, whose limit is P1, true ones would be 1, 0, 0, 0.
+//   A pending domain error gives the value the same level; the derivatives pass it by.
 
 #include "models/sigmoidal/limits.h"
 

@@ -58,11 +58,7 @@ Status derivatives(const Point& at) {
     dyda[2] = P[3] / P[2] * q;
     dyda[3] = q * log(ratio);
     y[1] = level;
-    if (math_error()) {
-        clear_error();
-        dyda[3] = MISSING_VALUE;
-        return failure;
-    }
+    if (math_error()) return fail_slots(at, 3);
     return success;
 }
 
@@ -112,11 +108,7 @@ Status derivatives(const Point& at) {
     dyda[2] = d;
     dyda[3] = P[4] / P[3] * q;
     dyda[4] = q * log(ratio);
-    if (math_error()) {
-        clear_error();
-        dyda[4] = MISSING_VALUE;
-        return failure;
-    }
+    if (math_error()) return fail_slots(at, 4);
     return success;
 }
 

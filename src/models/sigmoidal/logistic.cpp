@@ -7,8 +7,8 @@
 //     Where the power overflows the curve is at its end level.
 //
 //   Logistic5   y = P1 + (P2 - P1) (1 + (P3/x)^P4)^(-P5)
-//     the same with an asymmetry: P1 start level, P2 end level, P3 centre, P4 slope power, P5 asymmetry (1:
-//     none) No parameter is tested; what the powers and logarithms report fails the point. A failure of the
+//     P1 start level, P2 end level, P3 centre, P4 slope power, P5 asymmetry (1: none)
+//     No parameter is tested; what the powers and logarithms report fails the point. A failure of the
 //     derivatives marks y only: read none of them after status 1.
 
 #include "models/sigmoidal/limits.h"

@@ -52,11 +52,7 @@ Status derivatives(const Point& at) {
     dyda[2] = by_location;
     dyda[3] = by_location * time;
     dyda[4] = (-log(s) - u * t / s) * level;
-    if (math_error()) {
-        clear_error();
-        dyda[4] = MISSING_VALUE;
-        return failure;
-    }
+    if (math_error()) return fail_slots(at, 4);
     return success;
 }
 
@@ -113,11 +109,7 @@ Status derivatives(const Point& at) {
     dyda[4] = d * q * term / c;
     const double log_b = log(b);
     const double log_ceiling = log(ceiling);
-    if (math_error()) {
-        clear_error();
-        dyda[3] = MISSING_VALUE;
-        return failure;
-    }
+    if (math_error()) return fail_slots(at, 3);
     dyda[3] = level / c * (log_b / c - log_ceiling * a / b);
     return success;
 }

@@ -7,8 +7,9 @@
 //   offset: the last parameter read is P(5 m + 1). y[i+1] is peak i alone, without the offset.
 //
 //   A failure writes MISSING_VALUE into x[2] and leaves y[1] and the components as they stand, the failing
-//   peak's included. The call fails for x2 <= 0, unless there is no peak, and on a range or domain error (yc <=
-//   0). Widths are not tested. No derivatives: FF_DERIV sets y to the bare offset, see offset_reset.h.
+//   peak's included. The call fails for x2 <= 0, unless there is no peak, and on a range or domain error (yc <
+//   0; a scale of exactly 0 makes the peak vanish). Widths are not tested. No derivatives: FF_DERIV sets y to
+//   the bare offset, see offset_reset.h.
 
 #include "models/surfaces/offset_reset.h"
 

@@ -58,4 +58,5 @@ Status derivatives(const Point& at) {
 } // namespace
 } // namespace ansatz::power2d
 
-ANSATZ_MODEL(Power2D, ansatz::FormD<ansatz::power2d::value, ansatz::power2d::derivatives, {.query = 0}>)
+ANSATZ_MODEL(Power2D,
+             ansatz::FormD<ansatz::power2d::value, ansatz::power2d::derivatives, ansatz::Answers{.query = 0}>)

@@ -72,5 +72,6 @@ Status derivatives(const Point& at) {
 } // namespace
 } // namespace ansatz::rational2d
 
-ANSATZ_MODEL(Rational2D,
-             ansatz::FormD<ansatz::rational2d::value, ansatz::rational2d::derivatives, {.query = 0}>)
+ANSATZ_MODEL(
+    Rational2D,
+    ansatz::FormD<ansatz::rational2d::value, ansatz::rational2d::derivatives, ansatz::Answers{.query = 0}>)

@@ -73,5 +73,5 @@ Status derivatives(const Point& at) {
 } // namespace
 } // namespace ansatz::rationaltaylor
 
-ANSATZ_MODEL(RationalTaylor,
-             ansatz::FormD<ansatz::rationaltaylor::value, ansatz::rationaltaylor::derivatives, {.query = 0}>)
+ANSATZ_MODEL(RationalTaylor, ansatz::FormD<ansatz::rationaltaylor::value, ansatz::rationaltaylor::derivatives,
+                                           ansatz::Answers{.query = 0}>)

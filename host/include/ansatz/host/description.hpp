@@ -33,8 +33,10 @@ struct Description {
     int most_blocks = 0;                   ///< 0 for no limit
     bool components = true;                ///< with a block: y[2], y[3], ... are the blocks' contributions
     bool implicit = false;                 ///< y[1] is a residual, fitted to zero: there is no y column
+    bool paired = false;                   ///< of two outputs over two inputs: y[i] depends on x[i] alone
     int inputs = 0;                        ///< number of x columns where the model reads more than its row says
     bool reserved = false;                 ///< the name is taken, nothing is computed
+    bool true_derivatives = true;          ///< if not, the host takes differences in place of the model's own
     std::string_view notes = {};           ///< where the model fails, and oddities
 };
 

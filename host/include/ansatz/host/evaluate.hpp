@@ -11,8 +11,8 @@
 namespace ansatz::host {
 
 /// Where the derivatives come from. `best` takes the model's own where it offers them and central differences
-/// with Richardson's extrapolation elsewhere: for models that offer none, and for the second dependent
-/// variable.
+/// with Richardson's extrapolation elsewhere: for models that offer none or false ones, for the second
+/// dependent variable, and for the single derivative that a model marks as missing although it succeeds.
 enum class Derivatives { best, numerical };
 
 /// A model with given parameters and the buffers it is called through. Evaluates one point at a time and
@@ -40,6 +40,7 @@ private:
     bool call(unsigned request);
     bool call_value();
     bool differentiate(int output_from);
+    bool differentiate(int output_from, int k);
 
     Model model_;
     int n_;
@@ -48,6 +49,33 @@ private:
     std::array<double, 4> x_{}, given_{}; // a failing surface writes into x[2]: models get a copy
     std::vector<double> result_;          // y and components at the point itself, addressed from 1
     Eigen::MatrixXd jacobian_;            // outputs x parameters
+};
+
+/// A model of one output with derivatives of its own, at all rows of x at once: what a fit spends its time on.
+class ColumnEvaluator {
+public:
+    static bool serves(const Model& model, int parameters, Derivatives source);
+
+    /// `x` must outlive this.
+    ColumnEvaluator(const Model& model, const Eigen::MatrixXd& x, int parameters);
+
+    /// Computes y and the Jacobian at every point, as an Evaluator does. Returns the first point that fails, or
+    /// -1.
+    Eigen::Index compute(const Eigen::VectorXd& parameters);
+
+    const Eigen::VectorXd& y() const { return y_; }
+    double derivative(Eigen::Index point, Eigen::Index parameter) const { return jacobian_(point, parameter); }
+
+private:
+    bool usable_at(Eigen::Index point) const;
+
+    const Eigen::MatrixXd& x_;
+    Evaluator by_point_; // for the points that need a closer look
+    AnsatzBatch batch_ = {};
+    const AnsatzBatchModel* model_;
+    Eigen::VectorXd y_;
+    Eigen::Matrix<double, Eigen::Dynamic, Eigen::Dynamic, Eigen::RowMajor> jacobian_;
+    std::vector<std::int32_t> value_status_, status_;
 };
 
 /// A model's outputs for N points and P parameters.

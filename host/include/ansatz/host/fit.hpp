@@ -2,7 +2,9 @@
 //
 // The fit minimises  sum w (f(x; P) - y)^2  over the free parameters, over both columns jointly for a model of
 // two dependent variables, and over f alone for an implicit model. Ceres Solver's Levenberg-Marquardt method
-// finds the minimum; a few Gauss-Newton steps then settle the last digits.
+// finds the minimum; a few Gauss-Newton steps then settle the last digits. A search that ends at no minimum, or
+// where the model has lost a parameter, is made once more with short first steps; one caught at bounds goes on
+// from there.
 //
 // With J the derivatives of the residuals sqrt(w) (f - y) by the p free parameters, N residuals and
 // s^2 = RSS / (N - p), the standard errors are the roots of the diagonal of  s^2 (J^T J)^-1.  A parameter that
