@@ -80,6 +80,9 @@ public:
                 roots_.col(d) = data.weights.col(std::min(d, data.weights.cols() - 1)).cwiseSqrt();
             }
         }
+        if (ColumnEvaluator::serves(model, static_cast<int>(start.size()), source)) {
+            columns_.emplace(model, data.x, static_cast<int>(start.size()));
+        }
         at_.residuals.resize(points * model.outputs());
         at_.jacobian.resize(at_.residuals.size(), static_cast<Index>(free_.size()));
         fitted_.resize(points, model.outputs());
@@ -103,22 +106,29 @@ public:
         valid_ = false;
         last_ = free_values;
         ++evaluations_;
-        evaluator_.set_parameters(parameters(free_values));
+        if (columns_) {
+            failed_point_ = columns_->compute(parameters(free_values));
+            if (failed_point_ >= 0) return false;
+        } else {
+            evaluator_.set_parameters(parameters(free_values));
+        }
         const Index points = data_.x.rows();
         for (Index i = 0; i < points; ++i) {
-            if (!evaluator_.derivatives(data_.x, i)) {
+            if (!columns_ && !evaluator_.derivatives(data_.x, i)) {
                 failed_point_ = i;
                 return false;
             }
             for (Index d = 0; d < roots_.cols(); ++d) {
                 const int output = static_cast<int>(d);
+                const double y = columns_ ? columns_->y()[i] : evaluator_.y(output);
                 const double target = model_.implicit() ? 0.0 : data_.y(i, d);
                 const Index row = d * points + i;
-                fitted_(i, d) = evaluator_.y(output);
-                at_.residuals[row] = roots_(i, d) * (evaluator_.y(output) - target);
+                fitted_(i, d) = y;
+                at_.residuals[row] = roots_(i, d) * (y - target);
                 for (std::size_t j = 0; j < free_.size(); ++j) {
-                    at_.jacobian(row, static_cast<Index>(j)) =
-                        roots_(i, d) * evaluator_.derivative(output, static_cast<int>(free_[j]));
+                    const double slope = columns_ ? columns_->derivative(i, free_[j])
+                                                  : evaluator_.derivative(output, static_cast<int>(free_[j]));
+                    at_.jacobian(row, static_cast<Index>(j)) = roots_(i, d) * slope;
                 }
             }
         }
@@ -137,6 +147,7 @@ private:
     const Data& data_;
     VectorXd P_;
     Evaluator evaluator_;
+    std::optional<ColumnEvaluator> columns_; // in place of the evaluator where it serves
     std::vector<Index> free_;
     MatrixXd roots_; // of the weights
     MatrixXd fitted_;

@@ -112,7 +112,9 @@ std::optional<Model> Model::lookup(std::string_view name) {
     if (!routine) return std::nullopt;
     const auto known = std::ranges::find_if(model_names(), [&](const auto& n) { return same_name(n, name); });
     const std::string& spelling = known == model_names().end() ? text : *known;
-    return Model(spelling, routine, independent, dependent, parameters, describe(spelling));
+    Model model(spelling, routine, independent, dependent, parameters, describe(spelling));
+    model.batch_ = ansatz_batch_find(spelling.c_str());
+    return model;
 }
 
 Model Model::find(std::string_view name) {

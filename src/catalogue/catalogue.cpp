@@ -1,11 +1,7 @@
 #include "catalogue/catalogue.h"
 
+#include "catalogue/name.h"
 #include "catalogue/routines.h"
-
-#ifdef _WIN32
-#define WIN32_LEAN_AND_MEAN
-#include <windows.h>
-#endif
 
 namespace ansatz {
 
@@ -17,27 +13,6 @@ extern const FunctionEntry FunctionCatalogue[catalogue_size] = {
     {nIndep, nDep, nParams, 0, name, ansatz_##routine},
 #include "catalogue/models.inc"
 };
-
-namespace {
-
-#ifdef _WIN32
-bool same_name(const char* a, const char* b) {
-    return lstrcmpiA(a, b) == 0;
-}
-#else
-char folded(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-bool same_name(const char* a, const char* b) {
-    for (; folded(*a) == folded(*b); ++a, ++b) {
-        if (*a == '\0') return true;
-    }
-    return false;
-}
-#endif
-
-} // namespace
 
 const FunctionEntry* find_row(const char* name) {
     for (const FunctionEntry& row : FunctionCatalogue) {

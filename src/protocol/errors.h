@@ -21,17 +21,30 @@ namespace ansatz {
 
 static_assert(EDOM == 33 && ERANGE == 34, "hosts read the indicator by these numbers");
 
+#ifdef ANSATZ_BATCH
+/// The loops of the batch library keep an indicator of their own. They begin every point without a pending
+/// error, and the functions below decide from results alone, so the library's errno need not be looked at.
+[[gnu::tls_model("initial-exec")]] inline constinit thread_local int batch_indicator = 0;
+inline int& indicator() {
+    return batch_indicator;
+}
+#else
+inline int& indicator() {
+    return errno;
+}
+#endif
+
 inline bool range_error() {
-    return errno == ERANGE;
+    return indicator() == ERANGE;
 }
 inline bool domain_error() {
-    return errno == EDOM;
+    return indicator() == EDOM;
 }
 inline bool math_error() {
     return range_error() || domain_error();
 }
 inline void clear_error() {
-    errno = 0;
+    indicator() = 0;
 }
 
 /// Ends a failed path: MISSING_VALUE into y[1] and into the derivative slots named; status 1. The indicator is
@@ -84,20 +97,20 @@ inline bool ordinary(double r) {
 /// Sets the indicator from an extraordinary result r of a call that found it at `before`; finite tells whether
 /// all arguments were finite, nan whether one was NaN.
 [[gnu::cold, gnu::noinline]] inline double settle(double r, int before, bool finite, bool nan) {
-    errno = before;
-    if (std::isnan(r) && !nan) errno = EDOM;
-    if (std::isinf(r) && finite) errno = ERANGE;
+    indicator() = before;
+    if (std::isnan(r) && !nan) indicator() = EDOM;
+    if (std::isinf(r) && finite) indicator() = ERANGE;
     return r;
 }
 
 /// An ordinary result of a call that found the indicator at `before`.
 inline double accept(double r, int before) {
-    if constexpr (c_library::notes_false_errors) errno = before;
+    if constexpr (c_library::notes_false_errors) indicator() = before;
     return r;
 }
 
 template <double (*f)(double)> inline double checked(double t) {
-    const int before = errno;
+    const int before = indicator();
     const double r = f(t);
     return ordinary(r) ? accept(r, before) : settle(r, before, std::isfinite(t), std::isnan(t));
 }
@@ -135,7 +148,7 @@ inline double erfc(double t) {
 }
 
 inline double pow(double a, double b) {
-    const int before = errno;
+    const int before = indicator();
     const double r = c_library::pow(a, b);
     return detail::ordinary(r) ? detail::accept(r, before)
                                : detail::settle(r, before, std::isfinite(a) && std::isfinite(b),

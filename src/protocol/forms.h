@@ -94,6 +94,8 @@ template <Path value> struct FormW {
         std::uint32_t flags, std::uint32_t, std::int32_t nParams, std::uint32_t, std::uint32_t,                \
         const double* params, std::uint32_t, double* x, double* y, double* dyda)
 
+#ifndef ANSATZ_BATCH
+
 /// Makes the routine of a model from its form: ANSATZ_MODEL(Gauss, FormD<gauss::value, gauss::derivatives>).
 /// Of flags only the low byte is read, of nParams the low 16 bits, whatever the caller left above them.
 #define ANSATZ_MODEL(name, ...)                                                                                \
@@ -103,3 +105,13 @@ template <Path value> struct FormW {
         return __VA_ARGS__::serve(flags & 0xff,                                                                \
                                   ansatz::Point{static_cast<std::int16_t>(nParams), params, x, y, dyda});      \
     }
+
+#else // the batch library: the same form as a loop over many points
+
+#include "protocol/batch_loop.h"
+
+#define ANSATZ_MODEL(name, ...)                                                                                \
+    ANSATZ_LOOPS(name);                                                                                        \
+    constexpr ansatz::batch::Loops ansatz_loops_##name = ansatz::batch::loops<__VA_ARGS__>;
+
+#endif

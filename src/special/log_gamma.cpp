@@ -59,7 +59,7 @@ double positive(double x) {
 
 /// Sets the indicator for a pole or an overflow.
 double out_of_range() {
-    errno = ERANGE;
+    indicator() = ERANGE;
     return infinity;
 }
 

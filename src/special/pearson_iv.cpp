@@ -76,9 +76,9 @@ double density(double z, double m, double nu) {
 
 double pearson_iv(double offset, double location, double area, double width, double nu, double m, double x) {
     if (m <= 0.5 || width <= 0) return MISSING_VALUE;
-    const int before = errno;
+    const int before = indicator();
     const double y = offset + area * density((x - location) / width, m, nu) / width;
-    errno = before;
+    indicator() = before;
     return y;
 }
 

@@ -298,3 +298,44 @@ TEST(Failure, OfTheRequestIsAnError) {
     EXPECT_THROW(fit(model, {.x = vector({1, 2}), .y = vector({1})}, starts(model, {0, 0})), Error);
     EXPECT_THROW(fit(model, line.data, starts(model, {0, 0, 0, 0, std::nan("")})), Error);
 }
+
+TEST(Columns, GiveTheFitThatSingleCallsGive) {
+    // A routine of the caller's own is called point by point, a model of the catalogue for whole columns.
+    for (const auto& [name, guess] : {std::pair{"Gauss", std::vector{0.0, 450.0, 10.0, 4.0}},
+                                      std::pair{"GaussAmp", std::vector{0.0, 452.0, 5.0, 0.4}}}) {
+        const Model model = Model::find(name);
+        const Model custom = Model::custom(name, model.function(), 1, 1, 4, model.description());
+        ASSERT_TRUE(ColumnEvaluator::serves(model, 4, Derivatives::best));
+        ASSERT_FALSE(ColumnEvaluator::serves(custom, 4, Derivatives::best));
+        const Fit together = fit(model, eckerle4(), starts(model, guess));
+        const Fit singly = fit(custom, eckerle4(), starts(custom, guess));
+        EXPECT_TRUE(together.converged);
+        EXPECT_EQ(together.rss, singly.rss);
+        EXPECT_EQ(together.evaluations, singly.evaluations);
+        EXPECT_EQ(together.values(), singly.values());
+        EXPECT_EQ(together.fitted, singly.fitted);
+    }
+}
+
+TEST(Columns, LookCloserWhereADerivativeIsMissing) {
+    // At its centre the derivatives of Power0 by centre and exponent are marked, with status 0, and the host
+    // takes differences there.
+    const Model model = Model::find("Power0");
+    const Eigen::MatrixXd x = vector({-1, 0.5, 2});
+    const Eigen::VectorXd P = vector({1, 0.5, 2, 3});
+    ColumnEvaluator columns(model, x, 4);
+    EXPECT_EQ(columns.compute(P), -1);
+    Evaluator by_point(model, P);
+    for (Eigen::Index i = 0; i < 3; ++i) {
+        ASSERT_TRUE(by_point.derivatives(x, i));
+        EXPECT_EQ(columns.y()[i], by_point.y(0));
+        for (int k = 0; k < 4; ++k)
+            EXPECT_EQ(columns.derivative(i, k), by_point.derivative(0, k)) << i << ", P" << k + 1;
+    }
+}
+
+TEST(Columns, NameTheFirstPointThatFails) {
+    const Eigen::MatrixXd x = vector({1, 2, -1, 3, -2}); // Hill fails for x < 0
+    ColumnEvaluator columns(Model::find("Hill"), x, 3);
+    EXPECT_EQ(columns.compute(vector({1, 2, 1.5})), 2);
+}

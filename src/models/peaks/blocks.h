@@ -79,9 +79,9 @@ template <int size> double nothing(double* d) {
 
 /// e^t whose overflow is no error: the term is infinite, and what it damps reaches its limit, 0.
 inline double saturating_exp(double t) {
-    const int before = errno;
+    const int before = indicator();
     const double r = safe_exp(t);
-    if (std::isinf(r)) errno = before;
+    if (std::isinf(r)) indicator() = before;
     return r;
 }
 

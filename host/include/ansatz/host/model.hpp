@@ -2,6 +2,7 @@
 #pragma once
 
 #include <ansatz/ansatz.h>
+#include <ansatz/batch.h>
 #include <ansatz/host/description.hpp>
 #include <ansatz/host/error.hpp>
 
@@ -42,9 +43,10 @@ public:
 
     const std::string& name() const { return name_; } ///< as in the catalogue
     FitFunction function() const { return function_; }
-    int inputs() const { return inputs_; }      ///< number of independent variables
-    int outputs() const { return outputs_; }    ///< number of dependent variables, 1 or 2
-    bool analytic() const { return analytic_; } ///< does it offer true derivatives of y[1]?
+    const AnsatzBatchModel* batch() const { return batch_; } ///< for whole columns; null for a custom routine
+    int inputs() const { return inputs_; }                   ///< number of independent variables
+    int outputs() const { return outputs_; }                 ///< number of dependent variables, 1 or 2
+    bool analytic() const { return analytic_; }              ///< does it offer true derivatives of y[1]?
     const Description* description() const { return described_.text; }
     std::string_view family() const { return described_.family; }
 
@@ -73,6 +75,7 @@ private:
 
     std::string name_;
     FitFunction function_ = nullptr;
+    const AnsatzBatchModel* batch_ = nullptr;
     int inputs_ = 0, outputs_ = 0, default_size_ = 0;
     bool analytic_ = false;
     Described described_;

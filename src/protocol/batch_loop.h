@@ -1,0 +1,82 @@
+// A model's loop over many points, for the batch library: the form and its routines are inlined into it, so
+// that a point costs no call, and what depends on parameters alone may leave the loop.
+#pragma once
+
+#include "protocol/errors.h"
+#include "protocol/point.h"
+
+#include <ansatz/batch.h>
+
+#include <algorithm>
+#include <cstddef>
+
+namespace ansatz::batch {
+
+inline constexpr int most_params = ANSATZ_BATCH_MOST_PARAMS;
+
+/// A checked batch. What the caller did not give is there all the same, with a stride of 0: columns of zeros to
+/// read, places to write that nobody reads.
+struct Job {
+    int n;
+    const double* params; ///< from 0
+    const double* x[3];
+    std::ptrdiff_t x_stride[3];
+    int outputs; ///< with 0, y takes one number all the same
+    double* y;
+    std::ptrdiff_t y_stride;
+    double* jacobian; ///< with rows that hold every slot the model writes
+    std::ptrdiff_t jacobian_stride;
+    std::int32_t* status;
+    std::ptrdiff_t status_stride;
+};
+
+/// Computes the points first .. last - 1 and returns how many failed.
+using Loop = std::size_t (*)(const Job& job, std::ptrdiff_t first, std::ptrdiff_t last);
+
+struct Loops {
+    Loop value, derivatives;
+};
+
+template <class Form, unsigned request>
+[[gnu::flatten]] std::size_t loop(const Job& job, std::ptrdiff_t first, std::ptrdiff_t last) {
+    // Everything in locals, so that nothing a model stores can change it.
+    const auto [n, params, columns, x_stride, outputs, y_column, y_stride, jacobian, jacobian_stride, statuses,
+                status_stride] = job;
+    constexpr std::size_t slots = most_params + most_params / 2;
+    double P[slots], y[slots];
+    std::copy_n(params, n, P + 1);
+    std::fill_n(P + 1 + n, n / 2 + 16, 0.0); // some models read a little further than nParams says
+
+    const double *x1 = columns[0] + first * x_stride[0], *x2 = columns[1] + first * x_stride[1],
+                 *x3 = columns[2] + first * x_stride[2];
+    double* out = y_column + first * y_stride;
+    double* dyda = request == FF_DERIV ? jacobian + first * jacobian_stride - 1 : nullptr;
+    std::int32_t* status = statuses + first * status_stride;
+    std::size_t failures = 0;
+    for (std::ptrdiff_t i = first; i < last; ++i) {
+        double x[4] = {0, *x1, *x2, *x3};
+        y[1] = 0;
+        for (int k = 2; k <= outputs; ++k) y[k] = 0;
+        clear_error();
+        *status = Form::serve(request, Point{n, P, x, y, dyda});
+        if (*status != success) {
+            ++failures;
+            if (x[2] == MISSING_VALUE) y[1] = MISSING_VALUE; // the marker of a surface
+        }
+        out[0] = y[1];
+        for (int k = 1; k < outputs; ++k) out[k] = y[k + 1];
+        x1 += x_stride[0];
+        x2 += x_stride[1];
+        x3 += x_stride[2];
+        out += y_stride;
+        status += status_stride;
+        if constexpr (request == FF_DERIV) dyda += jacobian_stride;
+    }
+    return failures;
+}
+
+template <class Form> inline constexpr Loops loops = {loop<Form, FF_VALUE>, loop<Form, FF_DERIV>};
+
+} // namespace ansatz::batch
+
+#define ANSATZ_LOOPS(name) extern const ansatz::batch::Loops ansatz_loops_##name

@@ -1,0 +1,322 @@
+// Whole columns through the batch library: the numbers of single calls, bit for bit, where the caller wants
+// them.
+
+#include "frame/golden.h"
+
+#include <ansatz/batch.h>
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <cmath>
+#include <limits>
+
+namespace ansatz::test {
+namespace {
+
+constexpr double untouched = 12345.678; // what outputs hold before a call
+
+/// The points of a test, all with one set of parameters.
+struct Points {
+    std::vector<double> P;              // from 0
+    std::vector<std::vector<double>> x; // columns
+    std::size_t size() const { return x[0].size(); }
+};
+
+struct Results {
+    std::int64_t failures = 0;
+    std::vector<double> y, jacobian; // points x outputs, points x parameters
+    std::vector<std::int32_t> status;
+};
+
+/// What single calls give, arranged as the batch promises it.
+Results singly(const Model& model, const Points& points, unsigned request, int outputs) {
+    const std::size_t N = points.size(), n = points.P.size();
+    Results results;
+    std::vector<double> P(n + slots, 0.0), x(slots), y(n + slots), dyda(n + slots);
+    std::copy(points.P.begin(), points.P.end(), P.begin() + 1);
+    for (std::size_t i = 0; i < N; ++i) {
+        std::fill(x.begin(), x.end(), 0.0);
+        for (std::size_t c = 0; c < points.x.size(); ++c) x[c + 1] = points.x[c][i];
+        std::fill(y.begin(), y.end(), 0.0);
+        std::fill(dyda.begin(), dyda.end(), untouched);
+        errno = 0;
+        const std::int32_t status =
+            model.function(request, 0, static_cast<int>(n), 0, 0, P.data(), 0, x.data(), y.data(), dyda.data());
+        if (status != 0) {
+            ++results.failures;
+            if (same_bits(x[2], MISSING_VALUE)) y[1] = MISSING_VALUE;
+        }
+        results.status.push_back(status);
+        results.y.insert(results.y.end(), y.begin() + 1, y.begin() + 1 + outputs);
+        results.jacobian.insert(results.jacobian.end(), dyda.begin() + 1,
+                                dyda.begin() + 1 + static_cast<std::ptrdiff_t>(n));
+    }
+    return results;
+}
+
+Results together(const std::string& name, const Points& points, unsigned request, int outputs, int threads) {
+    const std::size_t N = points.size(), n = points.P.size();
+    Results results;
+    constexpr std::size_t guard = 8; // nothing may be written behind the last row
+    results.y.assign(N * static_cast<std::size_t>(outputs) + guard, untouched);
+    results.jacobian.assign(N * n + guard, untouched);
+    results.status.assign(N, -1);
+    AnsatzBatch batch = {};
+    batch.request = request;
+    batch.nParams = static_cast<int>(n);
+    batch.params = points.P.data();
+    batch.nPoints = N;
+    batch.nX = static_cast<int>(points.x.size());
+    for (std::size_t c = 0; c < points.x.size(); ++c) {
+        batch.x[c] = points.x[c].data();
+        batch.xStride[c] = 1;
+    }
+    batch.nY = outputs;
+    batch.y = results.y.data();
+    batch.yStride = outputs;
+    batch.jacobian = results.jacobian.data();
+    batch.jacobianStride = static_cast<std::ptrdiff_t>(n);
+    batch.status = results.status.data();
+    batch.threads = threads;
+    results.failures = ansatz_batch_run(ansatz_batch_find(name.c_str()), &batch);
+    for (std::size_t k = 1; k <= guard; ++k) {
+        EXPECT_EQ(results.y[results.y.size() - k], untouched);
+        EXPECT_EQ(results.jacobian[results.jacobian.size() - k], untouched);
+    }
+    results.y.resize(results.y.size() - guard);
+    results.jacobian.resize(results.jacobian.size() - guard);
+    return results;
+}
+
+/// The same bits; of two that are not a number it does not matter which.
+bool alike(double a, double b) {
+    return same_bits(a, b) || (std::isnan(a) && std::isnan(b));
+}
+
+void expect_alike(const Results& one, const Results& other) {
+    EXPECT_EQ(one.failures, other.failures);
+    EXPECT_EQ(one.status, other.status);
+    EXPECT_TRUE(std::equal(one.y.begin(), one.y.end(), other.y.begin(), other.y.end(), alike));
+    EXPECT_TRUE(std::equal(one.jacobian.begin(), one.jacobian.end(), other.jacobian.begin(),
+                           other.jacobian.end(), alike));
+}
+
+/// The x of all golden points of a row, and some where models fail or reach their limits.
+std::vector<std::vector<double>> columns_of(const GoldenRow& row) {
+    constexpr double inf = std::numeric_limits<double>::infinity();
+    std::vector<std::vector<double>> x(row.points.at(0).x.size());
+    for (std::size_t c = 0; c < x.size(); ++c) {
+        for (const GoldenPoint& point : row.points) x[c].push_back(point.x[c]);
+        for (const double extreme : {0.0, -1.0, -3.7, 1e5, -1e5, 1e200, -1e200, inf, -inf, std::nan("")})
+            x[c].push_back(extreme);
+    }
+    return x;
+}
+
+/// A row's golden parameters, and variants of them that break one condition of the domain at a time.
+std::vector<std::vector<double>> parameters_of(const GoldenRow& row) {
+    std::vector<std::vector<double>> variants;
+    for (const GoldenPoint& point : row.points) variants.push_back(point.P);
+    const std::vector<double> some = row.points.front().P;
+    for (std::size_t k = 0; k < some.size(); ++k) {
+        for (const double broken : {0.0, -some[k], 1e-30, std::nan("")}) {
+            variants.push_back(some);
+            variants.back()[k] = broken;
+        }
+    }
+    return variants;
+}
+
+TEST(Batch, HasTheBitsOfSingleCallsForEveryRow) {
+    std::int64_t failures = 0, points_seen = 0;
+    for (const GoldenRow& row : golden_rows()) {
+        const Model model = find(row.name);
+        Points points{.P = {}, .x = columns_of(row)};
+        for (const auto& P : parameters_of(row)) {
+            points.P = P;
+            for (const unsigned request : {0u + FF_VALUE, 0u + FF_DERIV}) {
+                for (const int outputs : {1, static_cast<int>(P.size()) + 1}) {
+                    SCOPED_TRACE(row.name + " request " + std::to_string(request));
+                    const Results expected = singly(model, points, request, outputs);
+                    expect_alike(together(row.name, points, request, outputs, 1), expected);
+                    failures += expected.failures;
+                    points_seen += static_cast<std::int64_t>(points.size());
+                }
+            }
+        }
+    }
+    EXPECT_GT(failures, points_seen / 20) << "the points hardly test failures";
+    EXPECT_LT(failures, points_seen / 2) << "the points hardly test successes";
+}
+
+/// With fewer parameters than a model uses, or a number that its blocks do not come out to, a row holds what
+/// fits and its neighbours are left alone; what the model reads beyond is 0.
+TEST(Batch, KeepsToTheRowsOfTheJacobian) {
+    for (const GoldenRow& row : golden_rows()) {
+        const Model model = find(row.name);
+        Points points{.P = {}, .x = columns_of(row)};
+        const std::vector<double> all = row.points.back().P;
+        for (std::size_t n = 0; n <= all.size() + 7; ++n) {
+            points.P = all;
+            points.P.resize(n, 0.75);
+            for (const unsigned request : {0u + FF_VALUE, 0u + FF_DERIV}) {
+                SCOPED_TRACE(row.name + " with " + std::to_string(n) + " parameters");
+                expect_alike(together(row.name, points, request, 1, 1), singly(model, points, request, 1));
+            }
+        }
+    }
+}
+
+TEST(Batch, AnswersForTheReservedRows) {
+    const Points points{.P = {1, 2, 3, 4}, .x = {{1, 2, 3}}};
+    const Results succeeds = together("Prunty", points, FF_DERIV, 1, 1);
+    EXPECT_EQ(succeeds.failures, 0);
+    EXPECT_EQ(succeeds.y, (std::vector<double>{0, 0, 0}));
+    EXPECT_EQ(succeeds.jacobian, std::vector<double>(12, untouched));
+    EXPECT_EQ(together("ChapmanEVP1", points, FF_VALUE, 1, 1).failures, 3);
+}
+
+TEST(Batch, FindsEveryNameInAnyCase) {
+    EXPECT_TRUE(ansatz_batch_find("gAUSS2d"));
+    EXPECT_EQ(ansatz_batch_find("GAUSS"), ansatz_batch_find("Gauss"));
+    EXPECT_FALSE(ansatz_batch_find("Gaus"));
+    EXPECT_FALSE(ansatz_batch_find(""));
+    EXPECT_FALSE(ansatz_batch_find(nullptr));
+    const auto line = [](std::uint32_t, const char* text) {
+        EXPECT_TRUE(ansatz_batch_find(text + 5)) << text; // "type NAME"
+    };
+    EXPECT_EQ(FuncTest(1, nullptr, line, nullptr), 238);
+}
+
+TEST(Batch, ReadsAndWritesWithStrides) {
+    // Points as a table of rows (weight, x2, x1), read backwards; rows of the Jacobian in a wider matrix; y in
+    // a table with a column of the caller's own.
+    constexpr int N = 5, n = 6, wide = n + 3;
+    const double P[n + 1] = {0, 0.5, 2.0, 0.3, 1.2, -0.4, 0.9}; // of Gauss2D, from 1
+    double table[N][3], y[N][2], jacobian[N][wide];
+    for (int i = 0; i < N; ++i) {
+        table[i][0] = 1;
+        table[i][1] = 0.1 * i;
+        table[i][2] = 0.3 * i - 0.5;
+        y[i][0] = y[i][1] = untouched;
+        for (double& d : jacobian[i]) d = untouched;
+    }
+    AnsatzBatch batch = {};
+    batch.request = FF_DERIV;
+    batch.nParams = n;
+    batch.params = P + 1;
+    batch.nPoints = N;
+    batch.nX = 2;
+    batch.x[0] = &table[N - 1][2];
+    batch.x[1] = &table[N - 1][1];
+    batch.xStride[0] = batch.xStride[1] = -3;
+    batch.nY = 1;
+    batch.y = &y[0][1];
+    batch.yStride = 2;
+    batch.jacobian = &jacobian[0][2];
+    batch.jacobianStride = wide;
+    ASSERT_EQ(ansatz_batch_run(ansatz_batch_find("Gauss2D"), &batch), 0);
+
+    const Model model = find("Gauss2D");
+    for (int i = 0; i < N; ++i) {
+        double x[3] = {0, table[N - 1 - i][2], table[N - 1 - i][1]}, value[4], dyda[n + 1];
+        errno = 0;
+        ASSERT_EQ(model.function(FF_DERIV, 0, n, 0, 0, P, 0, x, value, dyda), 0);
+        EXPECT_EQ(y[i][0], untouched);
+        EXPECT_EQ(y[i][1], value[1]);
+        for (int k = 0; k < n; ++k) EXPECT_EQ(jacobian[i][2 + k], dyda[k + 1]);
+        for (const int beside : {0, 1, wide - 1}) EXPECT_EQ(jacobian[i][beside], untouched);
+    }
+}
+
+TEST(Batch, GivesTheSameOnSeveralThreads) {
+    constexpr std::size_t N = 20011;                // blocks that do not come out even
+    Points points{.P = {2.0, 1.5, 2.5}, .x = {{}}}; // of Hill, which fails for x < 0
+    for (std::size_t i = 0; i < N; ++i)
+        points.x[0].push_back(i % 7 == 3 ? -1.0 : 0.001 * static_cast<double>(i));
+    const Results expected = singly(find("Hill"), points, FF_DERIV, 1);
+    EXPECT_EQ(expected.failures, 2859);
+    for (const int threads : {0, 1, 2, 3, 64}) {
+        SCOPED_TRACE(threads);
+        expect_alike(together("Hill", points, FF_DERIV, 1, threads), expected);
+    }
+}
+
+TEST(Batch, LeavesTheCallersIndicatorAlone) {
+    const Points points{.P = {1, 0, 1, 5}, .x = {{-1e5, 0, 1}}}; // the exponential overflows
+    for (const int indicator : {0, ERANGE, EDOM, EINTR}) {
+        errno = indicator;
+        const Results results = together("ExpGrow1", points, FF_VALUE, 1, 1);
+        EXPECT_EQ(errno, indicator);
+        EXPECT_EQ(results.failures, 0);
+    }
+    const Points failing{.P = {1, 0, 1, 5}, .x = {{1e5, 0, 1}}};
+    errno = EINTR;
+    EXPECT_EQ(together("ExpGrow1", failing, FF_VALUE, 1, 2).failures, 1);
+    EXPECT_EQ(errno, EINTR);
+}
+
+TEST(Batch, RefusesWhatMakesNoSense) {
+    const double P[2] = {1, 2}, x[1] = {3};
+    double y[1] = {untouched}, jacobian[2] = {untouched, untouched};
+    AnsatzBatch good = {};
+    good.request = FF_DERIV;
+    good.nParams = 2;
+    good.params = P;
+    good.nPoints = 1;
+    good.nX = 1;
+    good.x[0] = x;
+    good.nY = 1;
+    good.y = y;
+    good.jacobian = jacobian;
+    const AnsatzBatchModel* line = ansatz_batch_find("Line");
+    const auto refused = [&](auto spoil) {
+        AnsatzBatch batch = good;
+        spoil(batch);
+        const bool minus_one = ansatz_batch_run(line, &batch) == -1;
+        return minus_one && y[0] == untouched && jacobian[0] == untouched && jacobian[1] == untouched;
+    };
+    EXPECT_EQ(ansatz_batch_run(nullptr, &good), -1);
+    EXPECT_EQ(ansatz_batch_run(line, nullptr), -1);
+    EXPECT_TRUE(refused([](AnsatzBatch& b) { b.request = 0; }));
+    EXPECT_TRUE(refused([](AnsatzBatch& b) { b.request = FF_VALUE | FF_DERIV; }));
+    EXPECT_TRUE(refused([](AnsatzBatch& b) { b.request = FF_QUERY_DERIV; }));
+    EXPECT_TRUE(refused([](AnsatzBatch& b) { b.nParams = -1; }));
+    EXPECT_TRUE(refused([](AnsatzBatch& b) { b.nParams = ANSATZ_BATCH_MOST_PARAMS + 1; }));
+    EXPECT_TRUE(refused([](AnsatzBatch& b) { b.params = nullptr; }));
+    EXPECT_TRUE(refused([](AnsatzBatch& b) { b.nX = 0; }));
+    EXPECT_TRUE(refused([](AnsatzBatch& b) { b.nX = 2; })); // the second column is missing
+    EXPECT_TRUE(refused([](AnsatzBatch& b) { b.nX = 4; }));
+    EXPECT_TRUE(refused([](AnsatzBatch& b) { b.x[0] = nullptr; }));
+    EXPECT_TRUE(refused([](AnsatzBatch& b) { b.nY = -1; }));
+    EXPECT_TRUE(refused([](AnsatzBatch& b) { b.y = nullptr; }));
+    EXPECT_TRUE(refused([](AnsatzBatch& b) { b.jacobian = nullptr; }));
+    EXPECT_EQ(ansatz_batch_run(line, &good), 0);
+    EXPECT_EQ(y[0], 7);
+    EXPECT_EQ(jacobian[1], 3);
+
+    good.nPoints = 0; // nothing to do is no error
+    good.x[0] = nullptr;
+    EXPECT_EQ(ansatz_batch_run(line, &good), 0);
+}
+
+TEST(Batch, NeedsNeitherValuesNorStatuses) {
+    const double P[2] = {1, 2}, x[2] = {3, 4};
+    double jacobian[4];
+    AnsatzBatch batch = {};
+    batch.request = FF_DERIV;
+    batch.nParams = 2;
+    batch.params = P;
+    batch.nPoints = 2;
+    batch.nX = 1;
+    batch.x[0] = x;
+    batch.xStride[0] = 1;
+    batch.jacobian = jacobian;
+    batch.jacobianStride = 2;
+    EXPECT_EQ(ansatz_batch_run(ansatz_batch_find("Line"), &batch), 0);
+    EXPECT_EQ(jacobian[3], 4);
+}
+
+} // namespace
+} // namespace ansatz::test
