@@ -26,7 +26,7 @@ from section import replace
 
 root = pathlib.Path(__file__).resolve().parents[2]
 build = root / "build/release"
-per_file = {"models": 3, "special": 6, "protocol": 10, "catalogue": 4}
+per_file = {"models": 3, "special": 6, "protocol": 8, "catalogue": 4}
 
 # Kinds of faults: a pattern in a line of code, and what takes its place.
 code = re.compile(r'"(?:\\.|[^"\\])*"|//.*')
@@ -236,9 +236,11 @@ def fails(mutant, command, environment):
 
 def same_code(mutant, project):
     """Does the compiler make the same code of the fault as of the source?"""
-    users = project.users.get(mutant.path, [])
+    users = [o for o in project.library if o in project.users.get(mutant.path, [])]
+    if len(users) > 3:
+        return False
     with tempfile.TemporaryDirectory() as folder:
-        for output in [o for o in project.library if o in users]:
+        for output in users:
             codes = []
             for text in (mutant.text(), (root / mutant.path).read_text()):
                 compiled = project.compile(output, {mutant.path: text}, pathlib.Path(folder), "-O2")
@@ -277,6 +279,7 @@ def main():
 
     project = Build()
     paths = sorted(str(p.relative_to(root)) for p in (root / "src").rglob("*") if p.suffix in (".cpp", ".h"))
+    paths.remove("src/protocol/host_arithmetic.h")  # for Windows only, where its own tests run
     paths = [p for p in paths if any(f in p for f in arguments.files)] if arguments.files else paths
     queues = {}
     for path in paths:
