@@ -15,9 +15,76 @@
 #define ROW_WINDOWS(name, nIndep, nDep, nParams, routine, ordinal) ANSATZ_LOOPS(routine);
 #include "catalogue/models.inc"
 
+namespace ansatz::batch {
+namespace {
+
+/// How many derivative slots a model may write when it is given n parameters: the larger of n and `least`, or,
+/// where that is not so simple, base + block * ((n - skip) / count).
+struct Slots {
+    int least = 0, base = 0, block = 0, skip = 0, count = 0;
+    constexpr int of(int n) const {
+        return count == 0 ? std::max(n, least) : base + block * (std::max(n - skip, 0) / count);
+    }
+};
+
+struct Unusual {
+    const char* name;
+    Slots slots;
+};
+constexpr Unusual unusual[] = {
+    // Expected-value models differentiate by their reference positions, which the catalogue does not count.
+    {"LogarithmEVP", {.least = 2}},
+    {"Reciprocal0EVP", {.least = 2}},
+    {"ExponentEVP", {.least = 2}},
+    {"PowerEVP", {.least = 2}},
+    {"Reciprocal1EVP", {.least = 2}},
+    {"ParetoEVP", {.least = 2}},
+    {"Exponent2EVP", {.least = 2}},
+    {"Exponent3EVP", {.least = 2}},
+    {"Log2P1EVP", {.least = 3}},
+    {"Log2P2EVP", {.least = 4}},
+    {"BoxLucas1EVP", {.least = 3}},
+    {"Exp2PEVP", {.least = 4}},
+    {"FreundlichEVP", {.least = 4}},
+    {"HyperbolaEVP", {.least = 4}},
+    {"ReciprocalEVP", {.least = 4}},
+    {"Ratkowsky2P1EVP", {.least = 3}},
+    {"Ratkowsky2P2EVP", {.least = 3}},
+    {"Ratkowsky2P3EVP", {.least = 3}},
+    {"Freundlich3PEVP1", {.least = 4}},
+    {"Freundlich3PEVP2", {.least = 5}},
+    {"FreundlichEXTEVP", {.least = 4}},
+    {"BlNeldEVP", {.least = 5}},
+    {"HarrisEVP", {.least = 5}},
+    // The number of blocks is counted without regard to the offset.
+    {"Polynomial2D", {.base = 1, .block = 10, .count = 10}},
+    {"Chebyshev2D", {.base = 1, .block = 5, .count = 5}},
+    {"Cosine", {.base = 1, .block = 5, .count = 5}},
+    {"Extreme2D", {.base = 1, .block = 5, .count = 5}},
+    {"LogisticCum", {.base = 1, .block = 5, .count = 5}},
+    {"DoseResp", {.base = 1, .block = 5, .count = 5}},
+    {"Power2D", {.base = 1, .block = 5, .count = 5}},
+    {"Exponential2D", {.base = 1, .block = 3, .count = 3}},
+    // Blocks are counted by threes and lie four apart; six long and five apart.
+    {"Gaussian", {.base = 0, .block = 4, .skip = 1, .count = 3}},
+    {"Gaussian2D", {.base = 2, .block = 5, .skip = 1, .count = 5}},
+    // Never more than it is given, but always the first.
+    {"PolyN", {.least = 1}},
+};
+
+constexpr Slots slots_of(const char* name, int nParams) {
+    for (const Unusual& model : unusual) {
+        if (same_name(model.name, name)) return model.slots;
+    }
+    return {.least = nParams};
+}
+
+} // namespace
+} // namespace ansatz::batch
+
 struct AnsatzBatchModel {
     const char* name;
-    int nParams;
+    ansatz::batch::Slots slots;
     const ansatz::batch::Loops* loops;
 };
 
@@ -25,65 +92,14 @@ namespace ansatz::batch {
 namespace {
 
 constexpr AnsatzBatchModel models[] = {
-#define ROW(name, nIndep, nDep, nParams, routine, export, ordinal) {name, nParams, &ansatz_loops_##routine},
-#define ROW_HIDDEN(name, nIndep, nDep, nParams, routine) {name, nParams, &ansatz_loops_##routine},
-#define ROW_WINDOWS(name, nIndep, nDep, nParams, routine, ordinal) {name, nParams, &ansatz_loops_##routine},
+#define ROW(name, nIndep, nDep, nParams, routine, export, ordinal)                                             \
+    {name, slots_of(name, nParams), &ansatz_loops_##routine},
+#define ROW_HIDDEN(name, nIndep, nDep, nParams, routine)                                                       \
+    {name, slots_of(name, nParams), &ansatz_loops_##routine},
+#define ROW_WINDOWS(name, nIndep, nDep, nParams, routine, ordinal)                                             \
+    {name, slots_of(name, nParams), &ansatz_loops_##routine},
 #include "catalogue/models.inc"
 };
-
-/// How many derivative slots a model may write when it is given n parameters, where that is not simply the
-/// larger of n and its catalogue count: base + block * ((n - skip) / count).
-struct Slots {
-    const char* name;
-    int base, block = 0, skip = 0, count = 1;
-};
-constexpr Slots unusual[] = {
-    // Expected-value models differentiate by their reference positions, which the catalogue does not count.
-    {"LogarithmEVP", 2},
-    {"Reciprocal0EVP", 2},
-    {"ExponentEVP", 2},
-    {"PowerEVP", 2},
-    {"Reciprocal1EVP", 2},
-    {"ParetoEVP", 2},
-    {"Exponent2EVP", 2},
-    {"Exponent3EVP", 2},
-    {"Log2P1EVP", 3},
-    {"Log2P2EVP", 4},
-    {"BoxLucas1EVP", 3},
-    {"Exp2PEVP", 4},
-    {"FreundlichEVP", 4},
-    {"HyperbolaEVP", 4},
-    {"ReciprocalEVP", 4},
-    {"Ratkowsky2P1EVP", 3},
-    {"Ratkowsky2P2EVP", 3},
-    {"Ratkowsky2P3EVP", 3},
-    {"Freundlich3PEVP1", 4},
-    {"Freundlich3PEVP2", 5},
-    {"FreundlichEXTEVP", 4},
-    {"BlNeldEVP", 5},
-    {"HarrisEVP", 5},
-    // The number of blocks is counted without regard to the offset.
-    {"Polynomial2D", 1, 10, 0, 10},
-    {"Chebyshev2D", 1, 5, 0, 5},
-    {"Cosine", 1, 5, 0, 5},
-    {"Extreme2D", 1, 5, 0, 5},
-    {"LogisticCum", 1, 5, 0, 5},
-    {"DoseResp", 1, 5, 0, 5},
-    {"Power2D", 1, 5, 0, 5},
-    {"Exponential2D", 1, 3, 0, 3},
-    // Blocks are counted by threes and lie four apart; six long and five apart.
-    {"Gaussian", 0, 4, 1, 3},
-    {"Gaussian2D", 2, 5, 1, 5},
-    // Never more than it is given, but always the first.
-    {"PolyN", 1, 1, 1},
-};
-
-int slots_written(const AnsatzBatchModel& model, int n) {
-    for (const Slots& u : unusual) {
-        if (same_name(u.name, model.name)) return u.base + u.block * (std::max(n - u.skip, 0) / u.count);
-    }
-    return std::max(n, model.nParams);
-}
 
 bool makes_sense(const AnsatzBatch& b) {
     const bool derivatives = b.request == FF_DERIV;
@@ -98,33 +114,50 @@ bool makes_sense(const AnsatzBatch& b) {
     return (b.nY == 0 || b.y) && (!derivatives || b.jacobian);
 }
 
-/// Points are handed out to threads in blocks: long enough to be worth a look at the common counter, short
-/// enough that all end at about the same time.
-constexpr std::ptrdiff_t block = 1024;
+/// Points are worked off in blocks: long enough to be worth a look at a common counter, short enough that all
+/// threads end at about the same time.
+constexpr std::ptrdiff_t block = 512;
+constexpr int most_threads = 64;
+
+/// The share of the points that a thread begins with. In fits the same columns come again and again: each
+/// thread finds its own part still in its core's cache.
+struct alignas(64) Share {
+    std::atomic<std::ptrdiff_t> next = 0;
+    std::ptrdiff_t end = 0;
+};
 
 std::size_t run_on_threads(Loop loop, const Job& job, std::ptrdiff_t points, int threads) {
-    std::atomic<std::ptrdiff_t> next = 0;
+    Share shares[most_threads];
+    for (int t = 0; t < threads; ++t) {
+        shares[t].next = points / threads * t;
+        shares[t].end = t + 1 < threads ? points / threads * (t + 1) : points;
+    }
     std::atomic<std::size_t> failures = 0;
-    const auto work = [&] {
+    const auto work = [&](int own_share) {
         Job own = job;
         std::int32_t sink = 0; // threads must not write to one place, even if nobody reads it
         if (own.status_stride == 0) own.status = &sink;
         double unread = 0;
         if (own.outputs == 0) own.y = &unread;
-        for (;;) {
-            const std::ptrdiff_t first = next.fetch_add(block, std::memory_order_relaxed);
-            if (first >= points) return;
-            failures.fetch_add(loop(own, first, std::min(first + block, points)), std::memory_order_relaxed);
+        std::size_t failed = 0;
+        for (int k = 0; k < threads; ++k) { // the own share, then what others have left
+            Share& share = shares[(own_share + k) % threads];
+            for (;;) {
+                const std::ptrdiff_t first = share.next.fetch_add(block, std::memory_order_relaxed);
+                if (first >= share.end) break;
+                failed += loop(own, first, std::min(first + block, share.end));
+            }
         }
+        failures.fetch_add(failed, std::memory_order_relaxed);
     };
     std::vector<std::jthread> others;
     try {
         others.reserve(static_cast<std::size_t>(threads) - 1);
-        for (int t = 1; t < threads; ++t) others.emplace_back(work);
+        for (int t = 1; t < threads; ++t) others.emplace_back(work, t);
     } catch (const std::exception&) {
         // Those that could be started and this one do it all the same.
     }
-    work();
+    work(0);
     others.clear();
     return failures;
 }
@@ -181,10 +214,11 @@ std::int64_t ANSATZ_CALL ansatz_batch_run(const AnsatzBatchModel* model, const A
     }
     const Loop loop = derivatives ? model->loops->derivatives : model->loops->value;
     const auto points = static_cast<std::ptrdiff_t>(b.nPoints);
-    const int threads = static_cast<int>(std::min<std::ptrdiff_t>((points + block - 1) / block, b.threads));
+    const int threads =
+        static_cast<int>(std::min<std::ptrdiff_t>({(points + block - 1) / block, b.threads, most_threads}));
 
     const int indicator = errno;
-    const std::size_t failures = derivatives && slots_written(*model, b.nParams) > b.nParams
+    const std::size_t failures = derivatives && model->slots.of(b.nParams) > b.nParams
                                      ? run_by_wide_row(loop, job, points)
                                  : threads > 1 ? run_on_threads(loop, job, points, threads)
                                                : loop(job, 0, points);

@@ -75,7 +75,8 @@ typedef struct AnsatzBatch {
     int32_t* status;
 
     /* How many threads may work on the points, the calling one included; 0 and 1 mean the calling one
-     * alone. They are started for the call, which pays from some ten thousand points on. */
+     * alone, and more than 64 mean 64. They are started for the call, which pays from some ten thousand points
+     * on. */
     int32_t threads;
 } AnsatzBatch;
 

@@ -13,12 +13,12 @@ inline bool same_name(const char* a, const char* b) {
     return lstrcmpiA(a, b) == 0;
 }
 #else
-inline char folded(char c) {
+constexpr char folded(char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
 /// In any mix of upper and lower case.
-inline bool same_name(const char* a, const char* b) {
+constexpr bool same_name(const char* a, const char* b) {
     for (; folded(*a) == folded(*b); ++a, ++b) {
         if (*a == '\0') return true;
     }

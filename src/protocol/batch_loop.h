@@ -58,11 +58,12 @@ template <class Form, unsigned request>
         y[1] = 0;
         for (int k = 2; k <= outputs; ++k) y[k] = 0;
         clear_error();
-        *status = Form::serve(request, Point{n, P, x, y, dyda});
-        if (*status != success) {
+        const Status answer = Form::serve(request, Point{n, P, x, y, dyda});
+        if (answer != success) {
             ++failures;
             if (x[2] == MISSING_VALUE) y[1] = MISSING_VALUE; // the marker of a surface
         }
+        *status = answer;
         out[0] = y[1];
         for (int k = 1; k < outputs; ++k) out[k] = y[k + 1];
         x1 += x_stride[0];
