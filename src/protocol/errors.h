@@ -14,8 +14,10 @@
 #include "protocol/c_library.h"
 #include "protocol/point.h"
 
+#include <bit>
 #include <cerrno>
 #include <cmath>
+#include <cstdint>
 
 namespace ansatz {
 
@@ -88,10 +90,11 @@ inline Status fail_surface(const Point& at) {
 
 namespace detail {
 
-/// Neither zero, subnormal, infinite nor NaN: no function here errs with such a result.
+/// Neither zero, subnormal, infinite nor NaN: no function here errs with such a result. One compare tells, of
+/// the bits without their sign, which the shift drops.
 inline bool ordinary(double r) {
-    const double size = std::fabs(r);
-    return size >= 0x1p-1022 && size <= 0x1.fffffffffffffp+1023;
+    constexpr std::uint64_t normal = std::uint64_t{1} << 53, infinite = std::uint64_t{0x7ff} << 53;
+    return (std::bit_cast<std::uint64_t>(r) << 1) - normal < infinite - normal;
 }
 
 /// Sets the indicator from an extraordinary result r of a call that found it at `before`; finite tells whether
