@@ -3,8 +3,6 @@
 
 #include <benchmark/benchmark.h>
 
-#include <cerrno>
-
 namespace bench {
 namespace {
 
@@ -51,22 +49,6 @@ void add_lookup(const char* what, const char* name) {
     });
 }
 
-/// A reserved row computes nothing: what is left is the call.
-void add_empty_call() {
-    benchmark::RegisterBenchmark("call/empty", [](benchmark::State& state) {
-        const FitFunction nothing = get_funx("Prunty");
-        double P[5] = {}, x[2] = {}, y[2] = {}, dyda[5] = {};
-        std::int32_t failures = 0;
-        for (auto _ : state) {
-            for (int i = 0; i < 1000; ++i) {
-                errno = 0;
-                failures += nothing(FF_DERIV, 0, 4, 0, 0, P, 0, x, y, dyda);
-            }
-            benchmark::DoNotOptimize(failures);
-        }
-    });
-}
-
 } // namespace
 
 void register_catalogue() {
@@ -82,7 +64,6 @@ void register_catalogue() {
             add("batch2", batch_on_two, model, kind, sizes[3]);
         }
     }
-    add_empty_call();
     add_lookup("first", "Shah");
     add_lookup("middle", "Sine");
     add_lookup("last", "PlaneMod");

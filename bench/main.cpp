@@ -47,6 +47,7 @@ int main(int argc, char** argv) {
     benchmark::AddCustomContext("flags", ANSATZ_BENCH_FLAGS);
     benchmark::AddCustomContext("c_library", std::string("glibc ") + gnu_get_libc_version());
     bench::register_catalogue();
+    bench::register_floor();
     bench::register_rivals();
     bench::register_fits();
     benchmark::RunSpecifiedBenchmarks();

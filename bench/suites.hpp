@@ -9,6 +9,9 @@ inline constexpr int sizes[] = {1, 100, 1000, 100000};
 /// Every model by single calls, in batches on one thread and on two, and written by hand; and the lookups.
 void register_catalogue();
 
+/// What a call costs whatever the model.
+void register_floor();
+
 /// A dozen models beside automatic differentiation and formulas that are parsed at run time.
 void register_rivals();
 

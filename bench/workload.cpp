@@ -2,8 +2,6 @@
 
 #include "frame/golden.h"
 
-#include <ansatz/batch.h>
-
 #include <algorithm>
 #include <cerrno>
 #include <cmath>
@@ -89,6 +87,7 @@ Workload make(const ansatz::test::GoldenRow& row, bool& wrong) {
     model.name = row.name;
     std::uint16_t outputs = 0;
     model.function = Get_Func(row.name.c_str(), nullptr, &outputs, nullptr, nullptr);
+    model.batch = ansatz_batch_find(row.name.c_str());
     model.outputs = outputs;
     model.derivatives = row.derivatives;
     model.limit = find_limit(row.name);
@@ -196,7 +195,7 @@ std::int64_t call_batch(const Workload& model, Kind kind, std::size_t N, const d
     batch.jacobian = jacobian;
     batch.jacobianStride = model.params();
     batch.threads = threads;
-    return ansatz_batch_run(ansatz_batch_find(model.name.c_str()), &batch);
+    return ansatz_batch_run(model.batch, &batch);
 }
 
 void run_limit(const Workload& model, Kind kind, std::size_t N, const double* columns, double* y,

@@ -4,6 +4,7 @@
 #include "limits/limit.hpp"
 
 #include <ansatz/ansatz.h>
+#include <ansatz/batch.h>
 
 #include <cstdint>
 #include <string>
@@ -16,6 +17,7 @@ enum class Kind { value, gradient };
 struct Workload {
     std::string name;
     FitFunction function = nullptr;
+    const AnsatzBatchModel* batch = nullptr;
     int inputs = 0, outputs = 0;
     bool derivatives = false;     ///< does the model compute them?
     std::vector<double> P;        ///< from index 0
