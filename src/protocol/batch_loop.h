@@ -3,6 +3,7 @@
 #pragma once
 
 #include "protocol/errors.h"
+#include "protocol/of_parameters.h"
 #include "protocol/point.h"
 
 #include <ansatz/batch.h>
@@ -52,6 +53,7 @@ template <class Form, unsigned request>
     double* out = y_column + first * y_stride;
     double* dyda = request == FF_DERIV ? jacobian + first * jacobian_stride - 1 : nullptr;
     std::int32_t* status = statuses + first * status_stride;
+    const Keep keep;
     std::size_t failures = 0;
     for (std::ptrdiff_t i = first; i < last; ++i) {
         double x[4] = {0, *x1, *x2, *x3};

@@ -11,6 +11,7 @@
 //   marker. No derivatives.
 
 #include "models/distributions/answers.h"
+#include "protocol/of_parameters.h"
 #include "special/log_gamma.h"
 
 namespace ansatz::poisson {
@@ -22,7 +23,7 @@ Status value(const Point& at) {
     if (n - 1 <= 0) return failure;
     const double lg = log_gamma(x[1] + 1.0);
     const double q = safe_pow(P[2], x[1]) / safe_exp(lg);
-    const double probability = q * safe_exp(-P[2]);
+    const double probability = q * of_parameters<safe_exp>(0, -P[2]);
     if (math_error()) return fail(at);
     y[2] = probability;
     y[1] += probability;

@@ -15,6 +15,7 @@
 //   law has L/s. The other derivatives are the law's.
 
 #include "protocol/forms.h"
+#include "protocol/of_parameters.h"
 #include "special/bounded_pow.h"
 
 namespace ansatz::schulz_flory {
@@ -27,10 +28,10 @@ struct Peak {
     double w, M, s, height;
 };
 
-Peak peak_at(const Point& at, int centre, int scale) {
+Peak peak_at(const Point& at, int i, int centre, int scale) {
     const double w = bounded_pow(10, at.x[1]);
-    const double M = bounded_pow(10, at.P[centre]);
-    const double s = bounded_pow(10, at.P[scale]);
+    const double M = of_parameters<bounded_pow>(2 * i, 10.0, at.P[centre]);
+    const double s = of_parameters<bounded_pow>(2 * i + 1, 10.0, at.P[scale]);
     const double e = clamped_exp((M - w) / s);
     const double p = bounded_pow(w / M, M / s);
     return {w, M, s, p * e};
@@ -45,7 +46,7 @@ Status value(const Point& at) {
         const int centre = 3 * i - 1, scale = 3 * i, amplitude = 3 * i + 1;
         const double A = P[amplitude];
         if (A == 0) continue;
-        const double peak = peak_at(at, centre, scale).height * A;
+        const double peak = peak_at(at, i, centre, scale).height * A;
         if (math_error()) return fail(at);
         y[i + 1] = peak;
         sum += peak;
@@ -64,7 +65,7 @@ Status derivatives(const Point& at) {
         const int centre = 3 * i - 1, scale = 3 * i, amplitude = 3 * i + 1;
         const double A = P[amplitude];
         if (A == 0) continue;
-        const auto [w, M, s, g] = peak_at(at, centre, scale);
+        const auto [w, M, s, g] = peak_at(at, i, centre, scale);
         if (math_error()) return fail(at, 1, centre, scale, amplitude);
         const double Ag = A * g, L = log(w / M);
         dyda[amplitude] = g;

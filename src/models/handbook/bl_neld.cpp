@@ -12,6 +12,7 @@
 //   its base positive, negative densities included.
 
 #include "models/handbook/law.h"
+#include "protocol/of_parameters.h"
 
 namespace ansatz::bl_neld {
 namespace {
@@ -82,8 +83,8 @@ Status value(const Point& at) {
     const auto [n, P, xs, y, dyda] = at;
     const double x = xs[1];
     if (outside(P)) return fail(at);
-    const double base =
-        (safe_pow(P[2], -P[5]) * (P[3] - x) + safe_pow(P[4], -P[5]) * (x - P[1])) / (P[3] - P[1]);
+    const double A = of_parameters<safe_pow>(0, P[2], -P[5]), C = of_parameters<safe_pow>(1, P[4], -P[5]);
+    const double base = (A * (P[3] - x) + C * (x - P[1])) / (P[3] - P[1]);
     if (math_error() || base <= 0) return fail(at);
     y[1] = safe_pow(base, -1 / P[5]);
     return math_error() ? fail(at) : success;
@@ -93,7 +94,7 @@ Status derivatives(const Point& at) {
     const auto [n, P, xs, y, dyda] = at;
     const double x = xs[1];
     if (outside(P)) return fail(at, 1, 2, 3, 4, 5);
-    const double A = safe_pow(P[2], -P[5]), C = safe_pow(P[4], -P[5]);
+    const double A = of_parameters<safe_pow>(0, P[2], -P[5]), C = of_parameters<safe_pow>(1, P[4], -P[5]);
     const double span = P[3] - P[1], before = P[3] - x, behind = x - P[1];
     const double base = (A * before + C * behind) / span;
     if (math_error() || base <= 0) return fail(at, 1, 2, 3, 4, 5);
@@ -107,7 +108,8 @@ Status derivatives(const Point& at) {
     dyda[3] = by_reference * behind;
     dyda[4] = y[1] * second / P[4];
     const double minus_log_y = log(base) / P[5];
-    dyda[5] = y[1] / P[5] * (first * (log(P[2]) + minus_log_y) + second * (log(P[4]) + minus_log_y));
+    const double log_first = of_parameters<log>(2, P[2]), log_second = of_parameters<log>(3, P[4]);
+    dyda[5] = y[1] / P[5] * (first * (log_first + minus_log_y) + second * (log_second + minus_log_y));
     return math_error() ? fail(at, 1, 2, 3, 4, 5) : success;
 }
 

@@ -12,6 +12,7 @@
 //   status 0, and the error indicator stays set, so a host that goes on must clear it.
 
 #include "models/handbook/law.h"
+#include "protocol/of_parameters.h"
 
 namespace ansatz::box_lucas_1_mod {
 namespace {
@@ -49,7 +50,7 @@ Status value(const Point& at) {
     if (outside(P)) return fail(at);
     const double W = safe_pow(P[3], x[1]);
     if (math_error()) return fail(at);
-    const double V = safe_pow(P[3], P[1]);
+    const double V = of_parameters<safe_pow>(0, P[3], P[1]);
     y[1] = range_error() ? 0 : P[2] * (1 - W) / (1 - V);
     return success;
 }
@@ -59,14 +60,14 @@ Status derivatives(const Point& at) {
     if (outside(P)) return fail(at, 1, 2, 3);
     const double W = safe_pow(P[3], x[1]);
     if (math_error()) return fail(at, 1, 2, 3);
-    const double V = safe_pow(P[3], P[1]);
+    const double V = of_parameters<safe_pow>(0, P[3], P[1]);
     if (range_error()) {
         y[1] = dyda[1] = dyda[2] = dyda[3] = 0;
         return success;
     }
     dyda[2] = (1 - W) / (1 - V);
     y[1] = P[2] * dyda[2];
-    dyda[1] = y[1] * V * log(P[3]) / (1 - V);
+    dyda[1] = y[1] * V * of_parameters<log>(1, P[3]) / (1 - V);
     dyda[3] = (V * y[1] * P[1] - P[2] * x[1] * W) / P[3] / (1 - V);
     return success;
 }

@@ -17,6 +17,7 @@
 //   gap at this one point.
 
 #include "models/handbook/law.h"
+#include "protocol/of_parameters.h"
 
 namespace ansatz::exp_2p {
 namespace {
@@ -114,7 +115,7 @@ Status derivatives(const Point& at) {
         dyda[1] = dyda[3] = 0;
         return success;
     }
-    const double slope = log(P[4] / P[2]) * g * u / (d * d);
+    const double slope = of_parameters<log>(0, P[4] / P[2]) * g * u / (d * d);
     if (math_error()) return fail_all(at, 4); // P4/P2 is 0 for responses that far apart
     dyda[1] = slope;
     dyda[3] = slope * v / u;

@@ -12,6 +12,7 @@
 //   x = 0 fails although the law has a value there for a positive exponent.
 
 #include "models/handbook/law.h"
+#include "protocol/of_parameters.h"
 
 namespace ansatz::freundlich {
 namespace {
@@ -72,16 +73,16 @@ bool outside(const Point& at) {
 Status value(const Point& at) {
     const auto [n, P, x, y, dyda] = at;
     if (outside(at)) return fail(at);
-    y[1] = P[2] * safe_pow(P[4] / P[2], log(x[1] / P[1]) / log(P[3] / P[1]));
+    y[1] = P[2] * safe_pow(P[4] / P[2], log(x[1] / P[1]) / of_parameters<log>(0, P[3] / P[1]));
     return math_error() ? fail(at) : success;
 }
 
 Status derivatives(const Point& at) {
     const auto [n, P, x, y, dyda] = at;
     if (outside(at)) return fail_all(at, 4);
-    const double R = log(P[3] / P[1]), r = log(x[1] / P[1]) / R;
+    const double R = of_parameters<log>(0, P[3] / P[1]), r = log(x[1] / P[1]) / R;
     const double s = P[2] * safe_pow(P[4] / P[2], r);
-    const double g = log(P[4] / P[2]) * s / R;
+    const double g = of_parameters<log>(1, P[4] / P[2]) * s / R;
     if (math_error()) return fail_all(at, 4);
     y[1] = s;
     dyda[3] = -g * r / P[3];

@@ -10,6 +10,7 @@
 //   the power of the reference position underflows to 0, since it is divided by.
 
 #include "models/handbook/law.h"
+#include "protocol/of_parameters.h"
 
 namespace ansatz::freundlich_ext {
 namespace {
@@ -47,7 +48,8 @@ Status value(const Point& at) {
     const double x = xs[1];
     if (x <= 0 || P[1] <= 0) return fail(at);
     const double W = safe_pow(x, P[3] * safe_pow(x, -P[4]));
-    const double V = safe_pow(P[1], P[3] * safe_pow(P[1], -P[4]));
+    const double fall_ref = of_parameters<safe_pow>(0, P[1], -P[4]);
+    const double V = of_parameters<safe_pow>(1, P[1], P[3] * fall_ref);
     if (math_error() || V == 0) return fail(at);
     y[1] = P[2] * W / V;
     return success;
@@ -57,10 +59,10 @@ Status derivatives(const Point& at) {
     const auto [n, P, xs, y, dyda] = at;
     const double x = xs[1];
     if (x <= 0 || P[1] <= 0) return fail(at, 1, 2, 3, 4);
-    const double fall_x = safe_pow(x, -P[4]), fall_ref = safe_pow(P[1], -P[4]);
+    const double fall_x = safe_pow(x, -P[4]), fall_ref = of_parameters<safe_pow>(0, P[1], -P[4]);
     const double W = safe_pow(x, P[3] * fall_x);
-    const double V = safe_pow(P[1], P[3] * fall_ref);
-    const double log_x = log(x), log_ref = log(P[1]);
+    const double V = of_parameters<safe_pow>(1, P[1], P[3] * fall_ref);
+    const double log_x = log(x), log_ref = of_parameters<log>(2, P[1]);
     if (math_error() || V == 0) return fail(at, 1, 2, 3, 4);
     y[1] = P[2] * W / V;
     // ln y = ln P2 + P3 (x^(-P4) ln x - P1^(-P4) ln P1)

@@ -12,6 +12,7 @@
 //   only.
 
 #include "models/handbook/law.h"
+#include "protocol/of_parameters.h"
 
 namespace ansatz::log_2p1 {
 namespace {
@@ -43,7 +44,7 @@ namespace {
 
 Status value(const Point& at) {
     const auto [n, P, x, y, dyda] = at;
-    const double v = x[1] - P[1] + safe_exp(P[2] / P[3]);
+    const double v = x[1] - P[1] + of_parameters<safe_exp>(0, P[2] / P[3]);
     if (v <= 0) return fail(at);
     y[1] = P[3] * log(v);
     return math_error() ? fail(at) : success;
@@ -51,7 +52,7 @@ Status value(const Point& at) {
 
 Status derivatives(const Point& at) {
     const auto [n, P, x, y, dyda] = at;
-    const double t = safe_exp(P[2] / P[3]);
+    const double t = of_parameters<safe_exp>(0, P[2] / P[3]);
     if (math_error()) return fail(at);
     const double v = x[1] - P[1] + t;
     if (v <= 0) return fail(at);

@@ -14,6 +14,7 @@
 //   the host take differences of the value.
 
 #include "models/handbook/law.h"
+#include "protocol/of_parameters.h"
 
 namespace ansatz::log_2p2 {
 namespace {
@@ -45,7 +46,7 @@ namespace {
 Status value(const Point& at) {
     const auto [n, P, x, y, dyda] = at;
     if (P[3] - P[1] == 0) return fail(at);
-    const double E2 = safe_exp(P[2]), E4 = safe_exp(P[4]);
+    const double E2 = of_parameters<safe_exp>(0, P[2]), E4 = of_parameters<safe_exp>(1, P[4]);
     const double q = ((x[1] - P[1]) * E4 + (P[3] - x[1]) * E2) / (P[3] - P[1]);
     if (q <= 0) return fail(at);
     y[1] = log(q);
@@ -56,7 +57,7 @@ Status derivatives(const Point& at) {
     const auto [n, P, x, y, dyda] = at;
     const double d = P[3] - P[1];
     if (d == 0) return fail(at);
-    const double E2 = safe_exp(P[2]), E4 = safe_exp(P[4]);
+    const double E2 = of_parameters<safe_exp>(0, P[2]), E4 = of_parameters<safe_exp>(1, P[4]);
     if (math_error()) return fail(at);
     const double u = x[1] - P[1], v = P[3] - x[1];
     const double q = (u * E4 + v * E2) / d;

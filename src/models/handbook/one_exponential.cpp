@@ -24,6 +24,7 @@
 //   and returns 1.
 
 #include "models/handbook/law.h"
+#include "protocol/of_parameters.h"
 
 namespace ansatz {
 namespace {
@@ -87,7 +88,7 @@ Status derivatives(const Point& at) {
     if (math_error()) return fail(at);
     y[1] = w;
     dyda[2] = t * w / P[2];
-    dyda[1] = -(t * w / P[1]) * log(P[2]);
+    dyda[1] = -(t * w / P[1]) * of_parameters<log>(0, P[2]);
     return math_error() ? fail_slots(at, 1) : success;
 }
 
@@ -160,7 +161,7 @@ Status derivatives(const Point& at) {
     if (math_error()) return fail(at, 1, 2);
     y[1] = 1 - w;
     dyda[2] = x[1] * w / P[1] / a;
-    dyda[1] = log(a) * x[1] * w / (P[1] * P[1]);
+    dyda[1] = of_parameters<log>(0, a) * x[1] * w / (P[1] * P[1]);
     return math_error() ? fail_slots(at, 1) : success;
 }
 
@@ -201,7 +202,7 @@ namespace exponent1_mod {
 Status value(const Point& at) {
     const auto [n, P, x, y, dyda] = at;
     if (P[1] <= 0) return fail(at);
-    y[1] = -log(P[1]) * safe_pow(P[1], x[1]);
+    y[1] = -of_parameters<log>(0, P[1]) * safe_pow(P[1], x[1]);
     return math_error() ? fail(at) : success;
 }
 
@@ -209,7 +210,7 @@ Status derivatives(const Point& at) {
     const auto [n, P, x, y, dyda] = at;
     if (P[1] <= 0) return fail(at);
     const double w = safe_pow(P[1], x[1]);
-    const double density = -log(P[1]) * w;
+    const double density = -of_parameters<log>(0, P[1]) * w;
     if (math_error()) return fail(at);
     dyda[1] = (density * x[1] - w) / P[1];
     y[1] = density;

@@ -12,6 +12,7 @@
 //   is computed: a host that wants the true one negates dyda[2] or takes it numerically.
 
 #include "models/handbook/law.h"
+#include "protocol/of_parameters.h"
 
 namespace ansatz {
 namespace {
@@ -40,7 +41,7 @@ namespace logarithm_evp {
 
 Status value(const Point& at) {
     const auto [n, P, x, y, dyda] = at;
-    const double e = safe_exp(P[2]);
+    const double e = of_parameters<safe_exp>(0, P[2]);
     if (range_error()) {
         clear_error();
         y[1] = P[2];
@@ -54,7 +55,7 @@ Status value(const Point& at) {
 
 Status derivatives(const Point& at) {
     const auto [n, P, x, y, dyda] = at;
-    const double e = safe_exp(P[2]);
+    const double e = of_parameters<safe_exp>(0, P[2]);
     if (range_error()) {
         clear_error();
         y[1] = P[2];

@@ -16,6 +16,7 @@
 //   PowerEVP, dyda[2] in ParetoEVP, whose dyda[1] is 0.
 
 #include "models/handbook/law.h"
+#include "protocol/of_parameters.h"
 
 namespace ansatz {
 namespace {
@@ -52,7 +53,7 @@ Status value(const Point& at) {
         y[1] = 1;
         return success;
     }
-    y[1] = safe_pow(P[2], log(x[1]) / log(P[1]));
+    y[1] = safe_pow(P[2], log(x[1]) / of_parameters<log>(0, P[1]));
     return math_error() ? fail(at) : success;
 }
 
@@ -64,10 +65,10 @@ Status derivatives(const Point& at) {
         dyda[1] = dyda[2] = MISSING_VALUE;
         return success;
     }
-    const double log_reference = log(P[1]);
+    const double log_reference = of_parameters<log>(0, P[1]);
     const double r = log(x[1]) / log_reference;
     const double w = safe_pow(P[2], r);
-    const double log_response = log(P[2]);
+    const double log_response = of_parameters<log>(1, P[2]);
     if (math_error()) return fail(at, 1, 2);
     dyda[1] = -w * r * log_response / P[1] / log_reference;
     dyda[2] = w * r / P[2];
@@ -110,7 +111,7 @@ Status value(const Point& at) {
         y[1] = 0;
         return success;
     }
-    y[1] = 1 - safe_pow(1 - P[2], log(x[1]) / log(P[1]));
+    y[1] = 1 - safe_pow(1 - P[2], log(x[1]) / of_parameters<log>(0, P[1]));
     return math_error() ? fail(at) : success;
 }
 
@@ -123,13 +124,13 @@ Status derivatives(const Point& at) {
         return success;
     }
     const double a = 1 - P[2];
-    const double log_reference = log(P[1]);
+    const double log_reference = of_parameters<log>(0, P[1]);
     const double r = log(x[1]) / log_reference;
     const double w = safe_pow(a, r);
     if (math_error()) return fail(at, 1, 2);
     y[1] = 1 - w;
     dyda[2] = w * r / a;
-    dyda[1] = log(a) * w * r / P[1] / log_reference;
+    dyda[1] = of_parameters<log>(1, a) * w * r / P[1] / log_reference;
     return math_error() ? fail_slots(at, 1) : success;
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "protocol/guards.h"
+#include "protocol/of_parameters.h"
 
 namespace ansatz {
 
@@ -16,8 +17,9 @@ struct PowerScale {
     double place;
 
     PowerScale(double x, double first, double second, double b)
-        : at_x(safe_pow(x, b)), at_first(safe_pow(first, b)), at_second(safe_pow(second, b)),
-          span(at_second - at_first), place((at_x - at_first) / span) {}
+        : at_x(safe_pow(x, b)), at_first(of_parameters<safe_pow>(0, first, b)),
+          at_second(of_parameters<safe_pow>(1, second, b)), span(at_second - at_first),
+          place((at_x - at_first) / span) {}
 
     /// 1 - place, without the cancellation near the second reference.
     double rest() const { return (at_second - at_x) / span; }

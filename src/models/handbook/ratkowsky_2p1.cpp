@@ -11,6 +11,7 @@
 //   The expected-value form is Pow2P3 with the rate P3 and the exponent -ln(1 - P2) / ln(1 + P3 P1).
 
 #include "models/handbook/law.h"
+#include "protocol/of_parameters.h"
 
 namespace ansatz::ratkowsky_2p1 {
 namespace {
@@ -54,7 +55,7 @@ Status value(const Point& at) {
     if (math_error()) return fail(at); // an error still pending from elsewhere
     const Arguments args(at);
     if (args.outside()) return fail(at);
-    at.y[1] = 1 - safe_pow(args.a, log(args.u) / log(args.w));
+    at.y[1] = 1 - safe_pow(args.a, log(args.u) / of_parameters<log>(0, args.w));
     return math_error() ? fail(at) : success;
 }
 
@@ -63,12 +64,12 @@ Status derivatives(const Point& at) {
     const Arguments args(at);
     if (args.outside()) return fail(at, 1, 2, 3);
     const auto [a, u, w] = args;
-    const double Lu = log(u), Lw = log(w);
+    const double Lu = log(u), Lw = of_parameters<log>(0, w);
     const double W = safe_pow(a, Lu / Lw);
     if (math_error()) return fail(at, 1, 2, 3);
     dyda[2] = W * Lu / Lw / a;
     y[1] = 1 - W;
-    const double La = log(a);
+    const double La = of_parameters<log>(1, a);
     if (math_error()) return fail_slots(at, 1, 3);
     dyda[1] = La * Lu * P[3] * W / w / (Lw * Lw);
     dyda[3] = -La * W * (x[1] / u / Lw - Lu * P[1] / w / (Lw * Lw));

@@ -11,6 +11,7 @@
 //   a division: the curve takes the value P2 (1 - P1^(-P3))^2 there, and its asymptote is P2 (1 - P1^(-P3)).
 
 #include "models/handbook/law.h"
+#include "protocol/of_parameters.h"
 
 namespace ansatz::ratkowsky_2p2 {
 namespace {
@@ -42,18 +43,18 @@ namespace {
 Status value(const Point& at) {
     const auto [n, P, x, y, dyda] = at;
     if (x[1] <= 0 || P[1] <= 0) return fail(at);
-    y[1] = P[2] * (1 - safe_pow(x[1], -P[3])) * (1 - safe_pow(P[1], -P[3]));
+    y[1] = P[2] * (1 - safe_pow(x[1], -P[3])) * (1 - of_parameters<safe_pow>(0, P[1], -P[3]));
     return math_error() ? fail(at) : success;
 }
 
 Status derivatives(const Point& at) {
     const auto [n, P, x, y, dyda] = at;
     if (x[1] <= 0 || P[1] <= 0) return fail(at, 1, 2, 3);
-    const double W = safe_pow(x[1], -P[3]), V = safe_pow(P[1], -P[3]);
+    const double W = safe_pow(x[1], -P[3]), V = of_parameters<safe_pow>(0, P[1], -P[3]);
     if (math_error()) return fail(at, 1, 2, 3);
     dyda[2] = (1 - V) * (1 - W);
     y[1] = P[2] * dyda[2];
-    dyda[3] = (log(P[1]) * V * (1 - W) + log(x[1]) * (1 - V) * W) * P[2];
+    dyda[3] = (of_parameters<log>(1, P[1]) * V * (1 - W) + log(x[1]) * (1 - V) * W) * P[2];
     dyda[1] = V * (1 - W) * P[2] * P[3] / P[1];
     return success;
 }

@@ -10,16 +10,17 @@
 //   nothing.
 
 #include "models/multi/residual.h"
+#include "protocol/of_parameters.h"
 
 namespace ansatz::planemod {
 namespace {
 
 Status value(const Point& at) {
     const auto [n, P, x, y, dyda] = at;
-    const double s = sin(P[1]);
-    const double a = sin(P[2]) * s * x[2];
-    const double b = cos(P[2]) * s * x[1] + a;
-    return residual(at, cos(P[1]) * x[3] + b + P[3]);
+    const double s = of_parameters<sin>(0, P[1]);
+    const double a = of_parameters<sin>(1, P[2]) * s * x[2];
+    const double b = of_parameters<cos>(2, P[2]) * s * x[1] + a;
+    return residual(at, of_parameters<cos>(3, P[1]) * x[3] + b + P[3]);
 }
 
 } // namespace

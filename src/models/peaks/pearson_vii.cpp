@@ -16,6 +16,7 @@
 //   the shape does better with numerical derivatives. FF_PROBE is answered with a code of the shape.
 
 #include "protocol/forms.h"
+#include "protocol/of_parameters.h"
 #include "special/gamma.h"
 
 namespace ansatz::pearson_vii {
@@ -29,9 +30,9 @@ Status value(const Point& at) {
     const auto [n, P, x, y, dyda] = at;
     const double w = P[4], m = P[5];
     if (w == 0 || m <= 0.5) return fail(at);
-    const double a = safe_pow(2, 1 / m);
+    const double a = of_parameters<safe_pow>(0, 2.0, 1 / m);
     if (math_error()) return fail(at);
-    const double g = gamma_fn(m) / gamma_fn(m - 0.5);
+    const double g = of_parameters<gamma_fn>(1, m) / of_parameters<gamma_fn>(2, m - 0.5);
     const double s = sqrt(a - 1);
     const double height = 2 * P[3] * s * g / (w * sqrt_pi);
     if (math_error()) return fail(at);
@@ -47,7 +48,7 @@ Status derivatives(const Point& at) {
     const auto [n, P, x, y, dyda] = at;
     const double A = P[3], w = P[4], m = P[5];
     if (w == 0 || m <= 0.5) return fail(at);
-    const double a = safe_pow(2, 1 / m);
+    const double a = of_parameters<safe_pow>(0, 2.0, 1 / m);
     if (math_error()) return fail(at);
     const double u = (x[1] - P[2]) / w;
     const double q = 4 * (a - 1) * (u * u) + 1;
@@ -55,7 +56,8 @@ Status derivatives(const Point& at) {
     if (math_error()) return fail(at);
 
     const double s = sqrt(a - 1);
-    const double Gm = gamma_fn(m), Gh = gamma_fn(m - 0.5);
+    const double Gm = of_parameters<gamma_fn>(1, m), Gh = of_parameters<gamma_fn>(2, m - 0.5);
+    const double slope_m = of_parameters<gamma_prime>(3, m), slope_h = of_parameters<gamma_prime>(4, m - 0.5);
     const double g = Gm / Gh;
     const double by_centre = 16 * (s * s * s) * A * m * (p / q) * u * g / (w * sqrt_pi * w);
     const double by_area = 2 * s * p * g / (w * sqrt_pi);
@@ -64,9 +66,9 @@ Status derivatives(const Point& at) {
     dyda[2] = by_centre;
     dyda[3] = by_area;
     dyda[4] = by_centre * u - A / w * by_area;
-    dyda[5] = 2 * s * A * p * gamma_prime(m) / N + 2 * s * A * p / N -
+    dyda[5] = 2 * s * A * p * slope_m / N + 2 * s * A * p / N -
               a * ln_2 * A * p * g / (m * s * m * sqrt_pi * w) +
-              (a * four_ln_2 * (u * u) / (m * q) - log(q)) * Gm - 2 * s * A * p * g * gamma_prime(m - 0.5) / N;
+              (a * four_ln_2 * (u * u) / (m * q) - log(q)) * Gm - 2 * s * A * p * g * slope_h / N;
     y[1] = A * by_area + P[1];
     return success;
 }

@@ -17,6 +17,7 @@
 //   and in SRichards2 an overflow of the exponential or a base that is not positive.
 
 #include "protocol/forms.h"
+#include "protocol/of_parameters.h"
 
 namespace ansatz::richards {
 namespace {
@@ -77,7 +78,7 @@ Status value(const Point& at) {
     const double c = 1 - P[3];
     const double e = safe_exp(-(x[1] - P[2]) * P[4]);
     if (math_error()) return fail(at);
-    const double a = safe_pow(P[1], c);
+    const double a = of_parameters<safe_pow>(0, P[1], c);
     if (math_error()) return fail(at);
     const double b = a - signed_term(e, P[3]);
     if (b <= 0) return fail(at);
@@ -95,7 +96,7 @@ Status derivatives(const Point& at) {
     const double d = x[1] - P[2];
     const double e = safe_exp(-d * rate);
     if (math_error()) return fail(at);
-    const double a = safe_pow(ceiling, c);
+    const double a = of_parameters<safe_pow>(0, ceiling, c);
     if (math_error()) return fail(at);
     const double term = signed_term(e, P[3]);
     const double b = a - term;
@@ -108,7 +109,7 @@ Status derivatives(const Point& at) {
     dyda[2] = -rate * q * term / c;
     dyda[4] = d * q * term / c;
     const double log_b = log(b);
-    const double log_ceiling = log(ceiling);
+    const double log_ceiling = of_parameters<log>(1, ceiling);
     if (math_error()) return fail_slots(at, 3);
     dyda[3] = level / c * (log_b / c - log_ceiling * a / b);
     return success;

@@ -15,6 +15,7 @@
 //   peaks.
 
 #include "models/surfaces/peak_surface.h"
+#include "protocol/of_parameters.h"
 
 namespace ansatz::gauss2d {
 namespace {
@@ -44,7 +45,7 @@ struct Upright : peak_surface::Block {
 
 struct Turned : peak_surface::Block {
     static constexpr int stride = 5, slots = 6, marked = 6;
-    double sin_t = sin(p[6]), cos_t = cos(p[6]);
+    double sin_t = of_parameters<sin>(2 * number, p[6]), cos_t = of_parameters<cos>(2 * number + 1, p[6]);
     double U = (x1 - xc) * cos_t + (x2 - yc) * sin_t;
     double V = (x2 - yc) * cos_t - (x1 - xc) * sin_t;
     double G = bell(U / wx, V / wy);
