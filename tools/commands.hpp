@@ -32,7 +32,7 @@ struct FitCommandOptions {
     std::string model, data;
     std::vector<std::string> start, fix, free, lower, upper, x, y, weights, errors;
     std::string plot;
-    int max_iterations = 1000;
+    int skip = 0, max_iterations = 1000;
     bool known_errors = false, numerical = false, progress = false, json = false;
 };
 int fit(const FitCommandOptions& options);

@@ -273,7 +273,7 @@ int fit(const FitCommandOptions& options) {
     if (options.known_errors && options.errors.empty()) throw Error("--known-errors goes with --errors");
     const std::vector<host::Start> start = read_starts(model, options);
 
-    const host::Table table = host::Table::load(options.data);
+    const host::Table table = host::Table::load(options.data, options.skip);
     const std::string source = options.data == "-" ? "standard input" : options.data;
     const Columns columns = choose_columns(model, table, options);
     host::Data data{read(table, columns.x), read(table, columns.y), read(table, columns.weights)};

@@ -54,7 +54,8 @@ A point at which the model fails is shown as "missing", and the exit status is 1
 
 constexpr const char* fit_footer = R"(
 DATA is a table with commas, semicolons, tabs or blanks between the columns, with or without a header; text behind
-# is a comment. The first columns are x, the next y, unless --x and --y name others, by header or by number from 1.
+# is a comment, and --skip passes over text above. The first columns are x, the next y, unless --x and --y name
+others, by header or by number from 1.
 
 Parameters are addressed by number (P3) or by the symbol that `ansatz show MODEL` gives (w). The number of start
 values decides the number of peaks of a model with peaks.
@@ -63,6 +64,7 @@ Examples:
   ansatz fit Gauss eckerle4.csv --start 0,450,10,4 --fix P1=0
   ansatz fit Gauss eckerle4.csv --start xc=450,w=10,A=4 --fix y0=0 --lower w=0 --plot fit.png
   ansatz fit Gauss two.csv --start 0,440,8,4,460,8,2 --x time --y signal --errors sd --json
+  ansatz fit Gauss Eckerle4.dat --skip 60 --x 2 --y 1 --start 0,450,10,4
   ansatz fit Gauss2D map.csv --x east,north --y height --start 0,5,1,1,2,1 --plot map.png
   ansatz fit Circle points.csv --start 0,0,1       (an implicit curve has no y column)
   zcat data.gz | ansatz fit Lorentz - --start -1,2,0.5,3
@@ -135,6 +137,9 @@ int run(const std::vector<std::string>& arguments) {
     for (const auto& [name, values, type, help] : lists) {
         list_option(fit_command, name, values, help)->type_name(type);
     }
+    fit_command->add_option("--skip", fit_options.skip, "Skip so many lines of text above the table")
+        ->check(CLI::NonNegativeNumber)
+        ->type_name("NUMBER");
     fit_command->add_flag("--known-errors", fit_options.known_errors,
                           "Take --errors as known: do not scale standard errors by the scatter found");
     fit_command->add_flag("--numerical", fit_options.numerical, "Take derivatives by differences");

@@ -101,22 +101,23 @@ std::optional<double> parse_number(std::string_view text) {
     return value;
 }
 
-Table Table::load(const std::string& path) {
-    if (path == "-") return read(std::cin, "standard input");
+Table Table::load(const std::string& path, int skip) {
+    if (path == "-") return read(std::cin, "standard input", skip);
     std::ifstream file(path, std::ios::binary);
     if (!file || file.peek() == std::ifstream::traits_type::eof()) {
         if (file.is_open() && file.eof()) throw Error(fmt::format("{}: the file is empty", path));
         throw Error(fmt::format("cannot read the file '{}'", path));
     }
-    return read(file, path);
+    return read(file, path, skip);
 }
 
-Table Table::read(std::istream& in, std::string source) {
+Table Table::read(std::istream& in, std::string source, int skip) {
     Table table;
     table.source_ = std::move(source);
     std::string line;
     bool first = true;
     for (int line_number = 1; std::getline(in, line); ++line_number) {
+        if (line_number <= skip) continue;
         std::string_view text = line;
         if (line_number == 1 && text.starts_with("\xef\xbb\xbf")) text.remove_prefix(3);
         text = without_comment(text);
@@ -136,13 +137,18 @@ Table Table::read(std::istream& in, std::string source) {
             }
         }
         if (count != table.columns_) {
-            throw Error(fmt::format("{}: line {} has {} column{}, the lines before have {}", table.source_,
-                                    line_number, count, count == 1 ? "" : "s", table.columns_));
+            throw Error(
+                fmt::format("{}: line {} has {} column{}, the lines before have {}; is there text above "
+                            "the table?",
+                            table.source_, line_number, count, count == 1 ? "" : "s", table.columns_));
         }
         table.lines_.push_back({line_number, std::move(cells.texts)});
     }
     if (in.bad()) throw Error(fmt::format("cannot read {}", table.source_));
-    if (table.lines_.empty()) throw Error(fmt::format("{}: no data", table.source_));
+    if (table.lines_.empty()) {
+        throw Error(fmt::format("{}: no data{}", table.source_,
+                                skip > 0 ? fmt::format(" behind the {} lines skipped", skip) : ""));
+    }
     return table;
 }
 

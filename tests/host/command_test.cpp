@@ -96,7 +96,7 @@ TEST_F(Command, RefusesWithOneClearLine) {
         {"fit Gauss empty.csv --start 0,1,1,1", 2, "empty.csv: the file is empty"},
         {"fit Gauss bad.csv --start 0,1,1,1", 2, "bad.csv: line 3, column 2: 'abc' is not a number"},
         {"fit Gauss ragged.csv --start 0,1,1,1", 2,
-         "ragged.csv: line 2 has 3 columns, the lines before have 2"},
+         "ragged.csv: line 2 has 3 columns, the lines before have 2; is there text above the table?"},
         {"fit Gauss few.csv --start 0,1,1,1", 2, "3 data value(s) cannot determine 4 free parameters"},
         {"fit Gauss e.csv", 2, "--start is required"},
         {"fit ExpDec1 few.csv --start 0,1,0", 1,

@@ -53,6 +53,15 @@ TEST(Table, FindsColumnsByNameAndNumber) {
     EXPECT_EQ(read("1 2\n").name(1), "column 2");
 }
 
+TEST(Table, PassesOverTextAbove) {
+    std::istringstream in("Certified: 1,2,3\n\nx y # above is text\n1 2\n");
+    const Table table = Table::read(in, "table", 2);
+    EXPECT_EQ(table.name(1), "y");
+    EXPECT_EQ(table.numbers(1)[0], 2);
+    std::istringstream short_text("above\n");
+    EXPECT_THROW(Table::read(short_text, "table", 2), Error);
+}
+
 TEST(Table, LeavesColumnsThatNobodyReadsAlone) {
     const Table table = read("sample,x\nfirst,1\nsecond,2\n");
     EXPECT_EQ(table.numbers(1)[1], 2);
@@ -69,7 +78,7 @@ TEST(Table, SaysWhatIsWrongAndWhere) {
         {"1,2\n3,nan\n", "table: line 2, column 2: 'nan' is not a number"},
         {"1,2\n3,1e999\n", "table: line 2, column 2: '1e999' is not a number"},
         {"1,2\n3,4 5\n", "table: line 2, column 2: '4 5' is not a number"},
-        {"1,2\n3\n", "table: line 2 has 1 column, the lines before have 2"},
+        {"1,2\n3\n", "table: line 2 has 1 column, the lines before have 2; is there text above the table?"},
         {"# nothing\n\n", "table: no data"},
         {"x,y\n", "table: no data"},
     };

@@ -22,9 +22,10 @@ std::optional<double> parse_number(std::string_view text);
 
 class Table {
 public:
-    /// Reads a file, or standard input for "-". Throws Error with the file's name and the line.
-    static Table load(const std::string& path);
-    static Table read(std::istream& in, std::string source);
+    /// Reads a file, or standard input for "-", from behind its first `skip` lines on, which may hold any text.
+    /// Throws Error with the file's name and the line.
+    static Table load(const std::string& path, int skip = 0);
+    static Table read(std::istream& in, std::string source, int skip = 0);
 
     int columns() const { return columns_; }
     int rows() const { return static_cast<int>(lines_.size()); }
