@@ -120,7 +120,7 @@ std::vector<std::vector<double>> parameters_of(const GoldenRow& row) {
     for (const GoldenPoint& point : row.points) variants.push_back(point.P);
     const std::vector<double> some = row.points.front().P;
     for (std::size_t k = 0; k < some.size(); ++k) {
-        for (const double broken : {0.0, -some[k], 1e-30, std::nan("")}) {
+        for (const double broken : {0.0, -some[k], 1e-30, 1e200, std::nan("")}) {
             variants.push_back(some);
             variants.back()[k] = broken;
         }
