@@ -8,7 +8,7 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
 cmake --install "$build" --prefix "$work/prefix" >"$work/log"
-cmake -S "$here" -B "$work/build" -DCMAKE_PREFIX_PATH="$work/prefix" -DCMAKE_C_COMPILER="$compiler" -DCMAKE_C_FLAGS="$flags" >>"$work/log"
+cmake -G Ninja -S "$here" -B "$work/build" -DCMAKE_PREFIX_PATH="$work/prefix" -DCMAKE_C_COMPILER="$compiler" -DCMAKE_C_FLAGS="$flags" >>"$work/log"
 cmake --build "$work/build" >>"$work/log" || { cat "$work/log"; exit 1; }
 "$work/build/with_ansatz"
 "$work/build/with_ansatz_static"
