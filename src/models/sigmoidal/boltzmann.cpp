@@ -13,20 +13,17 @@
 
 #include "models/sigmoidal/limits.h"
 
-#include <optional>
-
 namespace ansatz {
 namespace {
 
 constexpr double far_end = 665;
 constexpr double least_width = 1e-18;
 
-/// e^u, or nothing at the far end of the transition.
-std::optional<double> exp_before_far_end(double u) {
-    if (u > far_end) return {};
-    const double t = safe_exp(u);
-    if (math_error()) return {};
-    return t;
+/// e^u into *t; false at the far end of the transition.
+bool exp_before_far_end(double u, double* t) {
+    if (u > far_end) return false;
+    *t = safe_exp(u);
+    return !math_error();
 }
 
 } // namespace
@@ -38,9 +35,9 @@ namespace {
 Status value(const Point& at) {
     const auto [n, P, x, y, dyda] = at;
     if (n <= 0 || P[4] == 0) return fail(at);
-    const auto t = exp_before_far_end((x[1] - P[3]) / P[4]);
-    if (!t) return reaches(at, P[2]);
-    y[1] = (P[1] - P[2]) / (*t + 1) + P[2];
+    double t = 0;
+    if (!exp_before_far_end((x[1] - P[3]) / P[4], &t)) return reaches(at, P[2]);
+    y[1] = (P[1] - P[2]) / (t + 1) + P[2];
     return success;
 }
 
@@ -48,9 +45,9 @@ Status derivatives(const Point& at) {
     const auto [n, P, x, y, dyda] = at;
     if (std::fabs(P[4]) < least_width) return fail(at);
     const double u = (x[1] - P[3]) / P[4];
-    const auto t = exp_before_far_end(u);
-    if (!t) return reaches(at, P[2], 0, 1, 0, 0);
-    const double s = *t + 1;
+    double t = 0;
+    if (!exp_before_far_end(u, &t)) return reaches(at, P[2], 0, 1, 0, 0);
+    const double s = t + 1;
     const double share = 1 / s, rest = 1 - share;
     const double fall = P[1] - P[2];
     const double by_centre = fall * share * rest / P[4];
@@ -71,9 +68,9 @@ namespace {
 Status value(const Point& at) {
     const auto [n, P, x, y, dyda] = at;
     if (n <= 0 || P[2] == 0) return fail(at);
-    const auto t = exp_before_far_end((x[1] - P[1]) / P[2]);
-    if (!t) return reaches(at, 0);
-    y[1] = (x[1] - P[4]) * P[3] / (*t + 1);
+    double t = 0;
+    if (!exp_before_far_end((x[1] - P[1]) / P[2], &t)) return reaches(at, 0);
+    y[1] = (x[1] - P[4]) * P[3] / (t + 1);
     return success;
 }
 
@@ -82,9 +79,9 @@ Status derivatives(const Point& at) {
     const double width = P[2], slope = P[3];
     if (std::fabs(width) < least_width) return fail(at);
     const double from_centre = x[1] - P[1];
-    const auto e = exp_before_far_end(from_centre / width);
-    if (!e) return reaches(at, 0, 0, 0, 0, 0);
-    const double t = *e, s = 1 + t;
+    double t = 0;
+    if (!exp_before_far_end(from_centre / width, &t)) return reaches(at, 0, 0, 0, 0, 0);
+    const double s = 1 + t;
     const double from_zero = x[1] - P[4];
     dyda[1] = from_zero * slope * t / (s * width * s);
     dyda[2] = t * slope * from_zero * from_centre / (width * width * (s * s));
