@@ -98,6 +98,11 @@ std::string place(const Place& at) {
                        at.left, at.right, at.bottom, at.top);
 }
 
+std::string ranges(const Window& window) {
+    return fmt::format("set xrange [{:.17g}:{:.17g}]\nset yrange [{:.17g}:{:.17g}]\n", window.low1,
+                       window.high1, window.low2, window.high2);
+}
+
 Window Window::widened(double share) const {
     const double by1 = share * (high1 - low1), by2 = share * (high2 - low2);
     return {low1 - by1, high1 + by1, low2 - by2, high2 + by2};

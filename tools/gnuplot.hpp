@@ -46,6 +46,9 @@ struct Window {
     void include(double x, double y);
 };
 
+/// The ranges of both axes.
+std::string ranges(const Window& window);
+
 /// Where in a panel a legend of some entries hides the least of the data and of the curve, given as x, y.
 std::string_view key_position(const Window& window, std::size_t entries, const Eigen::MatrixXd& data,
                               const Eigen::MatrixXd& curve);

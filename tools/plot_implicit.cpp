@@ -67,11 +67,9 @@ void plot_implicit(const Picture& p) {
     const double ratio = (window.high2 - window.low2) / (window.high1 - window.low1);
     if (ratio > 0.25 && ratio < 4) above = to_scale(above, window, width, height);
     script += place(above) + side_label(p.labels.x[1], above, 0.1) +
-              fmt::format("set title {} textcolor rgb '{}'\nset xlabel {}\n"
-                          "set xrange [{:.17g}:{:.17g}]\nset yrange [{:.17g}:{:.17g}]\nset key {}\n",
+              fmt::format("set title {} textcolor rgb '{}'\nset xlabel {}\n{}set key {}\n",
                           quoted(fmt::format("Fit of {}", p.model.name())), ink, quoted(p.labels.x[0]),
-                          window.low1, window.high1, window.low2, window.high2,
-                          key_position(window, 2, p.data.x, beside_curve(values, n))) +
+                          ranges(window), key_position(window, 2, p.data.x, beside_curve(values, n))) +
               draw({fmt::format("$curve using 1:2 with lines linewidth 2.2 linecolor rgb '{}' title {}",
                                 curve_colour, quoted(p.model.name())),
                     fmt::format("$data using 1:2 with points pointtype 7 pointsize 1 linecolor rgb '{}' "

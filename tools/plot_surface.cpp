@@ -63,14 +63,13 @@ std::pair<double, double> heights(const MatrixXd& surface) {
 std::string view(const Picture& p, const Window& window) {
     std::string title = fmt::format("Fit of {}", p.model.name());
     if (p.data.x.rows() > most_in_view) title += ", some of the data";
-    std::string text = fmt::format(
-        "set origin 0, 0\nset size 0.53, 1\nset title {} textcolor rgb '{}'\n"
-        "set xrange [{:.17g}:{:.17g}]\nset yrange [{:.17g}:{:.17g}]\n"
-        "set zlabel {} rotate by 90 offset 1\nset border 895\nset view 60, 40, 0.98, 1.05\n"
-        "set xyplane relative 0.03\nunset colorbox\nset grid xtics ytics ztics\n"
-        "set pm3d scansautomatic border linecolor rgb '#555555' linewidth 0.3\n"
-        "set style fill solid 1\nset key at screen 0.52, 0.93\n",
-        quoted(title), ink, window.low1, window.high1, window.low2, window.high2, quoted(p.labels.y[0]));
+    std::string text =
+        fmt::format("set origin 0, 0\nset size 0.53, 1\nset title {} textcolor rgb '{}'\n{}"
+                    "set zlabel {} rotate by 90 offset 1\nset border 895\nset view 60, 40, 0.98, 1.05\n"
+                    "set xyplane relative 0.03\nunset colorbox\nset grid xtics ytics ztics\n"
+                    "set pm3d scansautomatic border linecolor rgb '#555555' linewidth 0.3\n"
+                    "set style fill solid 1\nset key at screen 0.52, 0.93\n",
+                    quoted(title), ink, ranges(window), quoted(p.labels.y[0]));
     std::vector<std::string> layers = {"$surface using 1:2:3 with pm3d notitle"};
     for (const auto& [name, colour, sign] : sides) {
         layers.push_back(fmt::format("${} using 1:2:($6 > 0 ? $3 : NaN):(0):(0):(-$4) with vectors nohead "
@@ -87,12 +86,11 @@ std::string view(const Picture& p, const Window& window) {
 std::string map(const Picture& p, const Window& window, bool contours) {
     std::string text =
         place({0.60, 0.905, 0.12, 0.93}) +
-        fmt::format("set title {} textcolor rgb '{}'\nunset key\nset border 3\nset ylabel offset -0.5\n"
-                    "set xrange [{:.17g}:{:.17g}]\nset yrange [{:.17g}:{:.17g}]\n"
+        fmt::format("set title {} textcolor rgb '{}'\nunset key\nset border 3\nset ylabel offset -0.5\n{}"
                     "set colorbox user origin screen 0.92, 0.12 size screen 0.013, 0.81\nset cblabel {}\n",
                     quoted(fmt::format("residuals (at most {:.3g}) over the contours of the fit",
                                        residuals(p).cwiseAbs().maxCoeff())),
-                    ink, window.low1, window.high1, window.low2, window.high2, quoted(p.labels.y[0]));
+                    ink, ranges(window), quoted(p.labels.y[0]));
     std::vector<std::string> layers;
     for (const auto& [name, colour, sign] : sides) {
         layers.push_back(fmt::format(

@@ -22,4 +22,10 @@ Family multi();
 Family testing();
 Family reserved();
 
+// The parameters of expected-value forms with two reference positions.
+inline constexpr ParameterText x1 = {"x1", "x of the response y1", Role::reference};
+inline constexpr ParameterText x2 = {"x2", "x of the response y2", Role::reference};
+inline constexpr ParameterText y1 = {"y1", "response at x1"};
+inline constexpr ParameterText y2 = {"y2", "response at x2"};
+
 } // namespace ansatz::host::descriptions

@@ -5,12 +5,6 @@
 namespace ansatz::host::descriptions {
 
 Family handbook_three_parameter() {
-    constexpr Role reference = Role::reference;
-    const ParameterText x1 = {"x1", "x of the response y1", reference};
-    const ParameterText x2 = {"x2", "x of the response y2", reference};
-    const ParameterText y1 = {"y1", "response at x1"};
-    const ParameterText y2 = {"y2", "response at x2"};
-
     return {
         .title = "Regression handbook, three parameters",
         .models = {

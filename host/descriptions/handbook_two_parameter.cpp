@@ -5,12 +5,6 @@
 namespace ansatz::host::descriptions {
 
 Family handbook_two_parameter() {
-    constexpr Role reference = Role::reference;
-    const ParameterText x1 = {"x1", "x of the response y1", reference};
-    const ParameterText x2 = {"x2", "x of the response y2", reference};
-    const ParameterText y1 = {"y1", "response at x1"};
-    const ParameterText y2 = {"y2", "response at x2"};
-
     return {
         .title = "Regression handbook, two parameters",
         .models = {
@@ -139,7 +133,7 @@ Family handbook_two_parameter() {
                  "or 1 + a x1 is not positive."},
             {.name = "Ratkowsky2P2EVP",
              .formula = "y = b (1 - x^(-c)) (1 - x1^(-c))",
-             .parameters = {{"x1", "scales the level", reference}, {"b", "level"}, {"c", "exponent"}},
+             .parameters = {{"x1", "scales the level", Role::reference}, {"b", "level"}, {"c", "exponent"}},
              .notes = "Pow2P1 with the asymptote b (1 - x1^(-c)). Despite its name the response at x1 is not a "
                       "parameter: y is b (1 - x1^(-c))^2 there. Fails for x <= 0 and x1 <= 0."},
             {.name = "Ratkowsky2P3EVP",

@@ -5,6 +5,12 @@
 namespace ansatz::host::descriptions {
 
 Family peaks() {
+    const std::vector<ParameterText> moments = {{"A", "area"},
+                                                {"xc", "centre, the mean"},
+                                                {"w", "width, the standard deviation"},
+                                                {"a3", "skewness"},
+                                                {"a4", "excess"}};
+
     return {
         .title = "Peaks",
         .models = {
@@ -187,22 +193,14 @@ Family peaks() {
              .formula = "y = y0 + sum A/(w sqrt(2 pi)) exp(-z^2/2) (1 + a3/6 (z^3 - 3 z) + a4/24 "
                         "(z^4 - 6 z^2 + 3)), z = (x - xc)/w",
              .parameters = {{"y0", "offset"}},
-             .block = {{"A", "area"},
-                       {"xc", "centre, the mean"},
-                       {"w", "width, the standard deviation"},
-                       {"a3", "skewness"},
-                       {"a4", "excess"}},
+             .block = moments,
              .notes = "Gram-Charlier series. Mind the order: the area comes first. Fails for w <= 0. Negative "
                       "and with several bumps for large a3 or a4."},
             {.name = "ECS",
              .formula = "y = y0 + sum A/(w sqrt(2 pi)) exp(-z^2/2) (1 + a3/6 (z^3 - 3 z) + a4/24 "
                         "(z^4 - 6 z^2 + 3) + a3^2/72 (z^6 - 15 z^4 + 45 z^2 - 15)), z = (x - xc)/w",
              .parameters = {{"y0", "offset"}},
-             .block = {{"A", "area"},
-                       {"xc", "centre, the mean"},
-                       {"w", "width, the standard deviation"},
-                       {"a3", "skewness"},
-                       {"a4", "excess"}},
+             .block = moments,
              .notes = "Edgeworth-Cramer series: GCAS with one more term. Mind the order: the area comes first. "
                       "Fails for w <= 0. Negative and with several bumps for large a3 or a4."},
             {.name = "CCE",
