@@ -88,8 +88,7 @@ template <class Law> void inlined(benchmark::State& state) {
 }
 
 void called(benchmark::State& state, const char* name, FitFunction function) {
-    const Workload& known = workload(name);
-    Workload model = known;
+    Workload model = workload(name);
     if (function) model.function = function;
     benchmark::DoNotOptimize(model.function);
     Columns data{model};

@@ -16,8 +16,8 @@ UNIT = {'ns': 1, 'us': 1e3, 'ms': 1e6, 's': 1e9}
 
 
 def load(files):
-    """Nanoseconds per run, the counters of the fits, and the context."""
-    times, counters, context = defaultdict(lambda: math.inf), {}, {}
+    """Nanoseconds per run, the counters of the fits, the most repetitions of any benchmark, and the context."""
+    times, counters, repetitions, context = defaultdict(lambda: math.inf), {}, defaultdict(int), {}
     for file in files:
         with open(file, encoding='utf-8') as handle:
             data = json.load(handle)
@@ -28,7 +28,8 @@ def load(files):
             name = b['name'].removesuffix('/real_time')
             times[name] = min(times[name], b['real_time'] * UNIT[b['time_unit']])
             counters[name] = b
-    return times, counters, context
+            repetitions[name] += 1
+    return times, counters, max(repetitions.values()), context
 
 
 def number(v):
@@ -58,7 +59,7 @@ def cpu():
 
 class Report:
     def __init__(self, python_file, files):
-        self.times, self.counters, self.context = load(files)
+        self.times, self.counters, self.repetitions, self.context = load(files)
         with open(python_file, encoding='utf-8') as handle:
             self.python = json.load(handle)
         self.out = []
@@ -96,7 +97,7 @@ class Report:
 # What a call costs
 
 Written by `scripts/bench`, which measures everything below in one run on one machine. Times are nanoseconds per data
-point, the fastest of {self.rounds()} repetitions; ratios stand beside them. Nothing here decides a test.
+point, the fastest of {self.repetitions} repetitions; ratios stand beside them. Nothing here decides a test.
 
 - Machine: {clock}; load when it began {', '.join(f'{v:.1f}' for v in self.context.get('load_avg', []))}
 - Compiler: {self.context.get('compiler')}; C library: {self.context.get('c_library')}
@@ -123,7 +124,7 @@ stands there, and each result of the C library is looked at.
         sides = ['inlined', 'call', 'pending', 'results', 'library']
         times = {law: [self.times[f'floor/{side}/{law}'] / 1000 for side in sides] for law in laws}
         exponential = times['Exp1P1']
-        self.say(f'''
+        self.say('''
 ## What a call costs whatever the model
 
 Value and derivatives of three laws, ns per point of 1,000: inlined in the loop; behind a pointer with the ten arguments that
@@ -163,14 +164,6 @@ some run ahead of the formula. Threads are started for each batch and waited for
 second thread where a batch of 100,000 points takes 0.2 ms.
 ''', table(['single call', 'models', 'single : point', 'the call, ns', 'order and tests, ns', 'single : batch', 'single : loop',
                   'one thread : two'], rows))
-
-    def rounds(self):
-        counts = defaultdict(int)
-        for file in sys.argv[3:]:
-            with open(file, encoding='utf-8') as handle:
-                for b in json.load(handle)['benchmarks']:
-                    counts[b['name']] += b.get('run_type') != 'aggregate'
-        return max(counts.values())
 
     @staticmethod
     def met(yes):
