@@ -6,11 +6,7 @@
 namespace ansatz {
 
 extern const FunctionEntry FunctionCatalogue[catalogue_size] = {
-#define ROW(name, nIndep, nDep, nParams, routine, export, ordinal)                                             \
-    {nIndep, nDep, nParams, 0, name, ansatz_##routine},
-#define ROW_HIDDEN(name, nIndep, nDep, nParams, routine) {nIndep, nDep, nParams, 0, name, ansatz_##routine},
-#define ROW_WINDOWS(name, nIndep, nDep, nParams, routine, ordinal)                                             \
-    {nIndep, nDep, nParams, 0, name, ansatz_##routine},
+#define ENTRY(name, nIndep, nDep, nParams, routine) {nIndep, nDep, nParams, 0, #name, ansatz_##routine},
 #include "catalogue/models.inc"
 };
 

@@ -11,6 +11,7 @@
 // Values are the C library's own, bit for bit.
 #pragma once
 
+#include "build/arithmetic.h"
 #include "protocol/c_library.h"
 #include "protocol/point.h"
 
@@ -22,19 +23,6 @@
 namespace ansatz {
 
 static_assert(EDOM == 33 && ERANGE == 34, "hosts read the indicator by these numbers");
-
-#ifdef ANSATZ_BATCH
-/// The loops of the batch library keep an indicator of their own. They begin every point without a pending
-/// error, and the functions below decide from results alone, so the library's errno need not be looked at.
-[[gnu::tls_model("initial-exec")]] inline constinit thread_local int batch_indicator = 0;
-inline int& indicator() {
-    return batch_indicator;
-}
-#else
-inline int& indicator() {
-    return errno;
-}
-#endif
 
 inline bool range_error() {
     return indicator() == ERANGE;

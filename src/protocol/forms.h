@@ -1,17 +1,19 @@
-// The four orders in which models serve a request, written once, and the macro that makes a routine of one.
+// The four orders in which models serve a request, written once.
 //
-//   form D   value and derivatives; both bits run both paths, and the derivative path's value stands
-//   form E   value or derivatives, one path per call; the value path wins
-//   form V   value only; a derivative request alone is refused with status 1
-//   form W   value only; a derivative request alone is answered 0 and ignored
+//   BothPaths        value and derivatives; a call for both runs both paths, and what the derivatives' path writes stands
+//   OnePath          value or derivatives; a call for both is served the value alone
+//   ValueOrRefusal   value only; a request for derivatives alone is refused with status 1
+//   ValueOrNothing   value only; a request for derivatives alone is answered 0 and ignored
 //
-// A path is a function of the Point alone. What a model answers besides is its Answers.
+// A path is a function of the Point alone. What a model answers besides is its Answers. The macros that make a routine
+// of a form, ANSATZ_MODEL, and a page of its description, ANSATZ_PAGE, come from the build (build/entry.h).
 #pragma once
 
 #include "protocol/errors.h"
 #include "protocol/guards.h"
-#include "protocol/host_arithmetic.h"
 #include "protocol/point.h"
+
+#include "build/entry.h"
 
 namespace ansatz {
 
@@ -44,7 +46,7 @@ inline Status answer_idle(Idle idle, unsigned flags) {
     return success;
 }
 
-template <Path value, Path derivatives, Answers answers = Answers{}> struct FormD {
+template <Path value, Path derivatives, Answers answers = Answers{}> struct BothPaths {
     static Status serve(unsigned flags, const Point& at) {
         if (answers.probe && (flags & FF_PROBE)) return answer_probe(at);
         if (flags & FF_QUERY_DERIV) return answers.query;
@@ -59,7 +61,7 @@ template <Path value, Path derivatives, Answers answers = Answers{}> struct Form
     }
 };
 
-template <Path value, Path derivatives, Answers answers = Answers{}> struct FormE {
+template <Path value, Path derivatives, Answers answers = Answers{}> struct OnePath {
     static Status serve(unsigned flags, const Point& at) {
         if (answers.probe && (flags & FF_PROBE)) return answer_probe(at);
         if (flags & FF_QUERY_DERIV) return answers.query;
@@ -69,49 +71,21 @@ template <Path value, Path derivatives, Answers answers = Answers{}> struct Form
     }
 };
 
-/// The usual refusal of form V writes nothing; a model that marks its outputs passes its own.
+/// The usual refusal writes nothing; a model that marks its outputs passes its own.
 inline Status refuse(const Point&) {
     return failure;
 }
 
-template <Path value, Answers answers = Answers{.query = 0}, Path refusal = refuse> struct FormV {
+template <Path value, Answers answers = Answers{.query = 0}, Path refusal = refuse> struct ValueOrRefusal {
     static Status serve(unsigned flags, const Point& at) {
-        return FormE<value, refusal, answers>::serve(flags, at);
+        return OnePath<value, refusal, answers>::serve(flags, at);
     }
 };
 
-template <Path value> struct FormW {
+template <Path value> struct ValueOrNothing {
     static Status serve(unsigned flags, const Point& at) {
         return flags & FF_QUERY_DERIV || !(flags & FF_VALUE) ? success : value(at);
     }
 };
 
 } // namespace ansatz
-
-/// A routine's linkage name; what it is exported as is the catalogue's business.
-#define ANSATZ_ROUTINE(name)                                                                                   \
-    extern "C" ANSATZ_API std::int32_t ANSATZ_CALL ansatz_##name(                                              \
-        std::uint32_t flags, std::uint32_t, std::int32_t nParams, std::uint32_t, std::uint32_t,                \
-        const double* params, std::uint32_t, double* x, double* y, double* dyda)
-
-#ifndef ANSATZ_BATCH
-
-/// Makes the routine of a model from its form: ANSATZ_MODEL(Gauss, FormD<gauss::value, gauss::derivatives>).
-/// Of flags only the low byte is read, of nParams the low 16 bits, whatever the caller left above them.
-#define ANSATZ_MODEL(name, ...)                                                                                \
-    ANSATZ_ROUTINE(name);                                                                                      \
-    ANSATZ_ROUTINE(name) {                                                                                     \
-        const ansatz::OwnArithmetic own_arithmetic;                                                            \
-        return __VA_ARGS__::serve(flags & 0xff,                                                                \
-                                  ansatz::Point{static_cast<std::int16_t>(nParams), params, x, y, dyda});      \
-    }
-
-#else // the batch library: the same form as a loop over many points
-
-#include "protocol/batch_loop.h"
-
-#define ANSATZ_MODEL(name, ...)                                                                                \
-    ANSATZ_LOOPS(name);                                                                                        \
-    constexpr ansatz::batch::Loops ansatz_loops_##name = ansatz::batch::loops<__VA_ARGS__>;
-
-#endif

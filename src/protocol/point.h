@@ -1,6 +1,8 @@
 // What a model sees of one call, and what it answers.
 #pragma once
 
+#include "build/arithmetic.h"
+
 #include <ansatz/ansatz.h>
 
 #include <cstdint>
@@ -19,10 +21,10 @@ inline constexpr Status ends_call = 2;
 /// The five things that a model may touch. The arrays are addressed from 1, as in the formulas.
 struct Point {
     int n;           ///< nParams, sign-extended from 16 bits; read by models of varying size only
-    const double* P; ///< parameters P[1]..
-    double* x;       ///< independent variables x[1]..; surfaces write their failure marker into x[2]
-    double* y;       ///< y[1] the value, y[2].. components or the second dependent variable
-    double* dyda;    ///< dyda[k] the partial derivative of y[1] by P[k]
+    const Scalar* P; ///< parameters P[1]..
+    Real* x;         ///< independent variables x[1]..; surfaces write their failure marker into x[2]
+    Real* y;         ///< y[1] the value, y[2].. components or the second dependent variable
+    Real* dyda;      ///< dyda[k] the partial derivative of y[1] by P[k]
 };
 
 /// One path of a model: its value or its derivatives.

@@ -3,22 +3,27 @@
 #pragma once
 
 #include "protocol/errors.h"
-#include "protocol/of_parameters.h"
 #include "protocol/point.h"
 
 #include <ansatz/batch.h>
 
 #include <algorithm>
 #include <cstddef>
+#include <utility>
 
 namespace ansatz::batch {
 
 inline constexpr int most_params = ANSATZ_BATCH_MOST_PARAMS;
 
+/// The most slots that a call with so many parameters reads or writes: some models lay their blocks further apart than they
+/// count them. The table of rows checks it against every layout.
+inline constexpr int most_slots = most_params + most_params / 2;
+
 /// A checked batch. What the caller did not give is there all the same, with a stride of 0: columns of zeros to
 /// read, places to write that nobody reads.
 struct Job {
     int n;
+    int slots;            ///< how many parameters the model reads, at least n: the further ones are 0
     const double* params; ///< from 0
     const double* x[3];
     std::ptrdiff_t x_stride[3];
@@ -41,19 +46,20 @@ struct Loops {
 template <class Form, unsigned request>
 [[gnu::flatten]] std::size_t loop(const Job& job, std::ptrdiff_t first, std::ptrdiff_t last) {
     // Everything in locals, so that nothing a model stores can change it.
-    const auto [n, params, columns, x_stride, outputs, y_column, y_stride, jacobian, jacobian_stride, statuses,
+    const auto [n, slots, params, columns, x_stride, outputs, y_column, y_stride, jacobian, jacobian_stride, statuses,
                 status_stride] = job;
-    constexpr std::size_t slots = most_params + most_params / 2;
-    double P[slots], y[slots];
+    Scalar P[1 + most_slots];
+    Real y[1 + most_slots];
     std::copy_n(params, n, P + 1);
-    std::fill_n(P + 1 + n, n / 2 + 16, 0.0); // some models read a little further than nParams says
+    std::fill_n(P + 1 + n, slots - n, 0.0);
 
     const double *x1 = columns[0] + first * x_stride[0], *x2 = columns[1] + first * x_stride[1],
                  *x3 = columns[2] + first * x_stride[2];
     double* out = y_column + first * y_stride;
     double* dyda = request == FF_DERIV ? jacobian + first * jacobian_stride - 1 : nullptr;
     std::int32_t* status = statuses + first * status_stride;
-    const Keep keep;
+    Kept kept;
+    const Running before = std::exchange(running, {.indicator = 0, .kept = &kept});
     std::size_t failures = 0;
     for (std::ptrdiff_t i = first; i < last; ++i) {
         double x[4] = {0, *x1, *x2, *x3};
@@ -75,11 +81,10 @@ template <class Form, unsigned request>
         status += status_stride;
         if constexpr (request == FF_DERIV) dyda += jacobian_stride;
     }
+    running = before;
     return failures;
 }
 
 template <class Form> inline constexpr Loops loops = {loop<Form, FF_VALUE>, loop<Form, FF_DERIV>};
 
 } // namespace ansatz::batch
-
-#define ANSATZ_LOOPS(name) extern const ansatz::batch::Loops ansatz_loops_##name
