@@ -1,8 +1,8 @@
 // The batch library: finds a model's loop, checks what the caller asks for, and shares the points among
 // threads.
 
+#include "build/entry.h"
 #include "catalogue/name.h"
-#include "protocol/batch_loop.h"
 
 #include <atomic>
 #include <cerrno>
@@ -10,81 +10,14 @@
 #include <thread>
 #include <vector>
 
-#define ROW(name, nIndep, nDep, nParams, routine, export, ordinal) ANSATZ_LOOPS(routine);
-#define ROW_HIDDEN(name, nIndep, nDep, nParams, routine) ANSATZ_LOOPS(routine);
-#define ROW_WINDOWS(name, nIndep, nDep, nParams, routine, ordinal) ANSATZ_LOOPS(routine);
+#define ENTRY(name, nIndep, nDep, nParams, routine)                                                            \
+    ANSATZ_LOOPS(routine);                                                                                     \
+    ANSATZ_LAYOUT(name);
 #include "catalogue/models.inc"
-
-namespace ansatz::batch {
-namespace {
-
-/// How many derivative slots a model may write when it is given n parameters: the larger of n and `least`, or,
-/// where that is not so simple, base + block * ((n - skip) / count).
-struct Slots {
-    int least = 0, base = 0, block = 0, skip = 0, count = 0;
-    constexpr int of(int n) const {
-        return count == 0 ? std::max(n, least) : base + block * (std::max(n - skip, 0) / count);
-    }
-};
-
-struct Unusual {
-    const char* name;
-    Slots slots;
-};
-constexpr Unusual unusual[] = {
-    // Expected-value models differentiate by their reference positions, which the catalogue does not count.
-    {"LogarithmEVP", {.least = 2}},
-    {"Reciprocal0EVP", {.least = 2}},
-    {"ExponentEVP", {.least = 2}},
-    {"PowerEVP", {.least = 2}},
-    {"Reciprocal1EVP", {.least = 2}},
-    {"ParetoEVP", {.least = 2}},
-    {"Exponent2EVP", {.least = 2}},
-    {"Exponent3EVP", {.least = 2}},
-    {"Log2P1EVP", {.least = 3}},
-    {"Log2P2EVP", {.least = 4}},
-    {"BoxLucas1EVP", {.least = 3}},
-    {"Exp2PEVP", {.least = 4}},
-    {"FreundlichEVP", {.least = 4}},
-    {"HyperbolaEVP", {.least = 4}},
-    {"ReciprocalEVP", {.least = 4}},
-    {"Ratkowsky2P1EVP", {.least = 3}},
-    {"Ratkowsky2P2EVP", {.least = 3}},
-    {"Ratkowsky2P3EVP", {.least = 3}},
-    {"Freundlich3PEVP1", {.least = 4}},
-    {"Freundlich3PEVP2", {.least = 5}},
-    {"FreundlichEXTEVP", {.least = 4}},
-    {"BlNeldEVP", {.least = 5}},
-    {"HarrisEVP", {.least = 5}},
-    // The number of blocks is counted without regard to the offset.
-    {"Polynomial2D", {.base = 1, .block = 10, .count = 10}},
-    {"Chebyshev2D", {.base = 1, .block = 5, .count = 5}},
-    {"Cosine", {.base = 1, .block = 5, .count = 5}},
-    {"Extreme2D", {.base = 1, .block = 5, .count = 5}},
-    {"LogisticCum", {.base = 1, .block = 5, .count = 5}},
-    {"DoseResp", {.base = 1, .block = 5, .count = 5}},
-    {"Power2D", {.base = 1, .block = 5, .count = 5}},
-    {"Exponential2D", {.base = 1, .block = 3, .count = 3}},
-    // Blocks are counted by threes and lie four apart; six long and five apart.
-    {"Gaussian", {.base = 0, .block = 4, .skip = 1, .count = 3}},
-    {"Gaussian2D", {.base = 2, .block = 5, .skip = 1, .count = 5}},
-    // Never more than it is given, but always the first.
-    {"PolyN", {.least = 1}},
-};
-
-constexpr Slots slots_of(const char* name, int nParams) {
-    for (const Unusual& model : unusual) {
-        if (same_name(model.name, name)) return model.slots;
-    }
-    return {.least = nParams};
-}
-
-} // namespace
-} // namespace ansatz::batch
 
 struct AnsatzBatchModel {
     const char* name;
-    ansatz::batch::Slots slots;
+    const ansatz::Layout* layout;
     const ansatz::batch::Loops* loops;
 };
 
@@ -92,12 +25,7 @@ namespace ansatz::batch {
 namespace {
 
 constexpr AnsatzBatchModel models[] = {
-#define ROW(name, nIndep, nDep, nParams, routine, export, ordinal)                                             \
-    {name, slots_of(name, nParams), &ansatz_loops_##routine},
-#define ROW_HIDDEN(name, nIndep, nDep, nParams, routine)                                                       \
-    {name, slots_of(name, nParams), &ansatz_loops_##routine},
-#define ROW_WINDOWS(name, nIndep, nDep, nParams, routine, ordinal)                                             \
-    {name, slots_of(name, nParams), &ansatz_loops_##routine},
+#define ENTRY(name, nIndep, nDep, nParams, routine) {#name, &ansatz_layout_##name, &ansatz_loops_##routine},
 #include "catalogue/models.inc"
 };
 
@@ -164,7 +92,7 @@ std::size_t run_on_threads(Loop loop, const Job& job, std::ptrdiff_t points, int
 
 /// Rows of the Jacobian that are too short for what the model writes are filled by way of one that is not.
 std::size_t run_by_wide_row(Loop loop, Job job, std::ptrdiff_t points) {
-    double wide[2 * most_params] = {};
+    double wide[most_slots] = {};
     double* row = job.jacobian;
     const std::ptrdiff_t stride = job.jacobian_stride;
     job.jacobian = wide;
@@ -197,7 +125,9 @@ std::int64_t ANSATZ_CALL ansatz_batch_run(const AnsatzBatchModel* model, const A
     static constexpr double zero = 0;
     double unread_y = 0;
     std::int32_t unread_status = 0;
+    const int slots = model->layout->slots(b.nParams);
     Job job{.n = b.nParams,
+            .slots = std::max(slots, b.nParams),
             .params = b.params,
             .x = {&zero, &zero, &zero},
             .x_stride = {0, 0, 0},
@@ -218,10 +148,9 @@ std::int64_t ANSATZ_CALL ansatz_batch_run(const AnsatzBatchModel* model, const A
         static_cast<int>(std::min<std::ptrdiff_t>({(points + block - 1) / block, b.threads, most_threads}));
 
     const int indicator = errno;
-    const std::size_t failures = derivatives && model->slots.of(b.nParams) > b.nParams
-                                     ? run_by_wide_row(loop, job, points)
-                                 : threads > 1 ? run_on_threads(loop, job, points, threads)
-                                               : loop(job, 0, points);
+    const std::size_t failures = derivatives && slots > b.nParams ? run_by_wide_row(loop, job, points)
+                                 : threads > 1                    ? run_on_threads(loop, job, points, threads)
+                                                                  : loop(job, 0, points);
     errno = indicator;
     return static_cast<std::int64_t>(failures);
 }

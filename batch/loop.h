@@ -15,8 +15,8 @@ namespace ansatz::batch {
 
 inline constexpr int most_params = ANSATZ_BATCH_MOST_PARAMS;
 
-/// The most slots that a call with so many parameters reads or writes: some models lay their blocks further apart than they
-/// count them. The table of rows checks it against every layout.
+/// The most slots that a call with so many parameters reads or writes: some models lay their blocks further
+/// apart than they count them. The table of rows checks it against every layout.
 inline constexpr int most_slots = most_params + most_params / 2;
 
 /// A checked batch. What the caller did not give is there all the same, with a stride of 0: columns of zeros to
@@ -46,8 +46,8 @@ struct Loops {
 template <class Form, unsigned request>
 [[gnu::flatten]] std::size_t loop(const Job& job, std::ptrdiff_t first, std::ptrdiff_t last) {
     // Everything in locals, so that nothing a model stores can change it.
-    const auto [n, slots, params, columns, x_stride, outputs, y_column, y_stride, jacobian, jacobian_stride, statuses,
-                status_stride] = job;
+    const auto [n, slots, params, columns, x_stride, outputs, y_column, y_stride, jacobian, jacobian_stride,
+                statuses, status_stride] = job;
     Scalar P[1 + most_slots];
     Real y[1 + most_slots];
     std::copy_n(params, n, P + 1);

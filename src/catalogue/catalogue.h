@@ -15,7 +15,10 @@ struct FunctionEntry {
     FitFunction function;
 };
 
-inline constexpr int catalogue_size = 238;
+inline constexpr int catalogue_size = 0
+#define ENTRY(name, nIndep, nDep, nParams, routine) +1
+#include "catalogue/models.inc"
+    ;
 extern const FunctionEntry FunctionCatalogue[catalogue_size];
 
 /// The first row of this name, in any mix of upper and lower case; null when there is none.

@@ -1,12 +1,13 @@
 // The four orders in which models serve a request, written once.
 //
-//   BothPaths        value and derivatives; a call for both runs both paths, and what the derivatives' path writes stands
-//   OnePath          value or derivatives; a call for both is served the value alone
+//   BothPaths        value and derivatives; a call for both runs both paths, and what the derivatives' path
+//   writes stands OnePath          value or derivatives; a call for both is served the value alone
 //   ValueOrRefusal   value only; a request for derivatives alone is refused with status 1
 //   ValueOrNothing   value only; a request for derivatives alone is answered 0 and ignored
 //
-// A path is a function of the Point alone. What a model answers besides is its Answers. The macros that make a routine
-// of a form, ANSATZ_MODEL, and a page of its description, ANSATZ_PAGE, come from the build (build/entry.h).
+// A path is a function of the Point alone. What a model answers besides is its Answers. The macros that make a
+// routine of a form, ANSATZ_MODEL, and a page of its description, ANSATZ_PAGE, come from the build
+// (build/entry.h).
 #pragma once
 
 #include "protocol/errors.h"

@@ -11,6 +11,7 @@
 #include <initializer_list>
 #include <limits>
 #include <span>
+#include <string>
 #include <string_view>
 
 namespace ansatz {
@@ -146,21 +147,25 @@ private:
     std::size_t size_ = 0;
 };
 
-/// Which slots a call with n parameters reads and writes. Blocks of `block` parameters (a peak, a term) follow `lead`
-/// common ones, each `stride` after the one before; there are (n - skipped) / counted of them. Without a block the
-/// model reads and writes the slots 1 .. lead whatever n is.
+/// Which slots a call with n parameters reads and writes. Blocks of `block` parameters (a peak, a term) follow
+/// `lead` common ones, each `stride` after the one before; there are (n - skipped) / counted of them. Without a
+/// block the model reads and writes the slots 1 .. lead whatever n is.
 struct Layout {
     int lead = 0, block = 0;
-    int stride = block;   ///< from one block to the next
-    int skipped = lead;   ///< parameters left out when the blocks are counted
-    int counted = stride; ///< how many parameters make a block when they are counted
-    int least = lead;     ///< slots that are read and written without any block
+    int stride = 0;   ///< from one block to the next; 0: block
+    int skipped = -1; ///< parameters left out when the blocks are counted; -1: lead
+    int counted = 0;  ///< how many parameters make a block when they are counted; 0: stride
+    int least = 0;    ///< slots that are read and written even without a block, if more than lead
 
-    constexpr int blocks(int n) const { return block == 0 ? 0 : std::max(n - skipped, 0) / counted; }
+    constexpr int distance() const { return stride != 0 ? stride : block; }
+    constexpr int blocks(int n) const {
+        if (block == 0) return 0;
+        return std::max(n - (skipped >= 0 ? skipped : lead), 0) / (counted != 0 ? counted : distance());
+    }
     /// The last slot of params that is read and of dyda that is written.
     constexpr int slots(int n) const {
         const int count = blocks(n);
-        return count == 0 ? least : std::max(least, lead + stride * (count - 1) + block);
+        return std::max(least, count == 0 ? lead : lead + distance() * (count - 1) + block);
     }
 };
 
@@ -224,7 +229,13 @@ std::span<const Page> pages();
 /// The page of this name, in any mix of upper and lower case; null when there is none.
 const Page* find_page(std::string_view name);
 
+/// Do two names agree in any mix of upper and lower case?
+bool same_name(std::string_view a, std::string_view b);
+
+/// The families, as pages name them.
+std::span<const std::string_view> families();
+
 /// A family's title for readers: "asymmetric_peaks" becomes "Asymmetric peaks".
-std::string_view family_title(std::string_view family);
+std::string family_title(std::string_view family);
 
 } // namespace ansatz

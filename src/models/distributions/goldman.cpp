@@ -54,7 +54,17 @@ Status derivatives(const Point& at) {
 }
 
 } // namespace
-} // namespace ansatz::goldman
 
-ANSATZ_MODEL(Goldman,
-             ansatz::FormE<ansatz::goldman::value, ansatz::goldman::derivatives, ansatz::distribution::values>)
+ANSATZ_MODEL(Goldman, OnePath<value, derivatives, distribution::values>)
+
+ANSATZ_PAGE(Goldman, .title = "", .formula = "y = (R T/F) ln((p co + x)/(p ci + k)),  R = 8.314, F = 96485",
+            .parameters = {{"p", "permeability of the other ion relative to the leading one", Trait::constant},
+                           {"co", "concentration of the other ion outside", Trait::constant},
+                           {"ci", "concentration of the other ion inside", Trait::constant},
+                           {"k", "concentration of the leading ion inside", Trait::constant},
+                           {"T", "temperature in kelvin", Trait::constant}},
+            .notes = "The voltage across a membrane, in volts; x is the concentration of the leading ion "
+                     "outside. Fails for p co + x <= 0 and p ci + k <= 0. One curve determines p co, p ci + k "
+                     "and T only: fix two of p, co, ci, k.")
+
+} // namespace ansatz::goldman

@@ -20,6 +20,13 @@ Status value(const Point& at) {
 }
 
 } // namespace
-} // namespace ansatz::gumbel
 
-ANSATZ_MODEL(Gumbel, ansatz::FormV<ansatz::gumbel::value, ansatz::distribution::values>)
+ANSATZ_MODEL(Gumbel, ValueOrRefusal<value, distribution::values>)
+
+ANSATZ_PAGE(Gumbel, .title = "", .formula = "y = 1 - exp(-exp((x - xc)/b))",
+            .parameters = {{"xc", "location, where y = 1 - 1/e = 0.632", Trait::constant},
+                           {"b", "scale (as x); negative: the curve falls", Trait::constant}},
+            .notes = "The distribution function of smallest values, from 0 to 1. Fails for b = 0 and more than "
+                     "709 scales above the location.")
+
+} // namespace ansatz::gumbel

@@ -48,6 +48,14 @@ Status derivatives(const Point& at) {
 }
 
 } // namespace
-} // namespace ansatz::langevin_model
 
-ANSATZ_MODEL(Langevin, ansatz::FormD<ansatz::langevin_model::value, ansatz::langevin_model::derivatives>)
+ANSATZ_MODEL(Langevin, BothPaths<value, derivatives>)
+
+ANSATZ_PAGE(Langevin, .title = "", .formula = "y = y0 + sum A (coth(x - xc) - 1/(x - xc))",
+            .parameters = {{"y0", "offset", Trait::offset}},
+            .block = {{"xc", "centre", Trait::position},
+                      {"A", "amplitude, the saturation on either side", Trait::amplitude}},
+            .block_name = "term", .true_derivatives = false,
+            .notes = "The law has no width: scale x first, to the energy of the dipole in its field over kT.")
+
+} // namespace ansatz::langevin_model

@@ -26,6 +26,14 @@ Status value(const Point& at) {
 }
 
 } // namespace
-} // namespace ansatz::laplace
 
-ANSATZ_MODEL(Laplace, ansatz::FormV<ansatz::laplace::value, ansatz::distribution::values>)
+ANSATZ_MODEL(Laplace, ValueOrRefusal<value, distribution::values>)
+
+ANSATZ_PAGE(
+    Laplace, .title = "", .formula = "y = y0 + exp(-abs(x - xc)/b)/(2 b)",
+    .parameters = {{"y0", "offset", Trait::offset},
+                   {"xc", "centre", Trait::position},
+                   {"b", "scale (as x)", Trait::constant}},
+    .notes = "A density of area 1. Fails for b = 0; a negative b gives no density, so bound it from below.")
+
+} // namespace ansatz::laplace

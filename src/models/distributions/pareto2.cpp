@@ -36,8 +36,13 @@ Status derivatives(const Point& at) {
 }
 
 } // namespace
-} // namespace ansatz::pareto2
 
-ANSATZ_MODEL(
-    Pareto2,
-    ansatz::FormE<ansatz::pareto2::value, ansatz::pareto2::derivatives, ansatz::distribution::with_derivatives>)
+ANSATZ_MODEL(Pareto2, OnePath<value, derivatives, distribution::with_derivatives>)
+
+ANSATZ_PAGE(Pareto2, .title = "", .formula = "y = 1 - (b/x)^a",
+            .parameters = {{"a", "shape", Trait::shape},
+                           {"b", "scale (as x), the smallest x of the distribution", Trait::constant}},
+            .notes = "The distribution function, from 0 to 1; negative below x = b. Fails for x <= 0; a fit "
+                     "fails for b <= 0.")
+
+} // namespace ansatz::pareto2

@@ -11,7 +11,6 @@
 //   marker. No derivatives.
 
 #include "models/distributions/answers.h"
-#include "protocol/of_parameters.h"
 #include "special/log_gamma.h"
 
 namespace ansatz::poisson {
@@ -23,7 +22,7 @@ Status value(const Point& at) {
     if (n - 1 <= 0) return failure;
     const double lg = log_gamma(x[1] + 1.0);
     const double q = safe_pow(P[2], x[1]) / safe_exp(lg);
-    const double probability = q * of_parameters<safe_exp>(0, -P[2]);
+    const double probability = q * of_parameters<safe_exp>(-P[2]);
     if (math_error()) return fail(at);
     y[2] = probability;
     y[1] += probability;
@@ -31,6 +30,12 @@ Status value(const Point& at) {
 }
 
 } // namespace
-} // namespace ansatz::poisson
 
-ANSATZ_MODEL(Poisson, ansatz::FormV<ansatz::poisson::value, ansatz::distribution::values>)
+ANSATZ_MODEL(Poisson, ValueOrRefusal<value, distribution::values>)
+
+ANSATZ_PAGE(Poisson, .title = "", .formula = "y = y0 + k^x/Gamma(x + 1) exp(-k)",
+            .parameters = {{"y0", "offset", Trait::offset}, {"k", "mean number of events", Trait::constant}},
+            .notes = "The probability of x events; x need not be whole. Fails for x above 170 and x = -1, -2, "
+                     "..., and for k < 0 unless x is whole.")
+
+} // namespace ansatz::poisson

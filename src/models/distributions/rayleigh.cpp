@@ -31,7 +31,11 @@ Status derivatives(const Point& at) {
 }
 
 } // namespace
-} // namespace ansatz::rayleigh
 
-ANSATZ_MODEL(Rayleigh, ansatz::FormE<ansatz::rayleigh::value, ansatz::rayleigh::derivatives,
-                                     ansatz::distribution::with_derivatives>)
+ANSATZ_MODEL(Rayleigh, OnePath<value, derivatives, distribution::with_derivatives>)
+
+ANSATZ_PAGE(Rayleigh, .title = "", .formula = "y = 1 - exp(-(x/s)^2/2)",
+            .parameters = {{"s", "scale (as x), the standard deviation of each component", Trait::constant}},
+            .notes = "The distribution function, from 0 to 1. Fails for x < 0 and s <= 0.")
+
+} // namespace ansatz::rayleigh

@@ -15,7 +15,6 @@
 //   law has L/s. The other derivatives are the law's.
 
 #include "protocol/forms.h"
-#include "protocol/of_parameters.h"
 #include "special/bounded_pow.h"
 
 namespace ansatz::schulz_flory {
@@ -28,10 +27,10 @@ struct Peak {
     double w, M, s, height;
 };
 
-Peak peak_at(const Point& at, int i, int centre, int scale) {
+Peak peak_at(const Point& at, int centre, int scale) {
     const double w = bounded_pow(10, at.x[1]);
-    const double M = of_parameters<bounded_pow>(2 * i, 10.0, at.P[centre]);
-    const double s = of_parameters<bounded_pow>(2 * i + 1, 10.0, at.P[scale]);
+    const double M = of_parameters<bounded_pow>(10.0, at.P[centre]);
+    const double s = of_parameters<bounded_pow>(10.0, at.P[scale]);
     const double e = clamped_exp((M - w) / s);
     const double p = bounded_pow(w / M, M / s);
     return {w, M, s, p * e};
@@ -46,7 +45,7 @@ Status value(const Point& at) {
         const int centre = 3 * i - 1, scale = 3 * i, amplitude = 3 * i + 1;
         const double A = P[amplitude];
         if (A == 0) continue;
-        const double peak = peak_at(at, i, centre, scale).height * A;
+        const double peak = peak_at(at, centre, scale).height * A;
         if (math_error()) return fail(at);
         y[i + 1] = peak;
         sum += peak;
@@ -65,7 +64,7 @@ Status derivatives(const Point& at) {
         const int centre = 3 * i - 1, scale = 3 * i, amplitude = 3 * i + 1;
         const double A = P[amplitude];
         if (A == 0) continue;
-        const auto [w, M, s, g] = peak_at(at, i, centre, scale);
+        const auto [w, M, s, g] = peak_at(at, centre, scale);
         if (math_error()) return fail(at, 1, centre, scale, amplitude);
         const double Ag = A * g, L = log(w / M);
         dyda[amplitude] = g;
@@ -79,6 +78,18 @@ Status derivatives(const Point& at) {
 }
 
 } // namespace
-} // namespace ansatz::schulz_flory
 
-ANSATZ_MODEL(SchulzFlory, ansatz::FormD<ansatz::schulz_flory::value, ansatz::schulz_flory::derivatives>)
+ANSATZ_MODEL(SchulzFlory, BothPaths<value, derivatives>)
+
+ANSATZ_PAGE(
+    SchulzFlory, .title = "",
+    .formula = "y = y0 + sum A (w/M)^(M/s) exp((M - w)/s),  w = 10^x, M = 10^m, s = 10^b",
+    .parameters = {{"y0", "offset", Trait::offset}},
+    .block = {{"m", "decimal logarithm of the mass at the top of the peak (as x)", Trait::constant},
+              {"b", "decimal logarithm of the scale s, in the unit of the mass", Trait::constant},
+              {"A", "height of the peak", Trait::amplitude}},
+    .true_derivatives = false,
+    .notes = "A molar-mass distribution; x is the decimal logarithm of the mass. Very narrow peaks, M/s above "
+             "10000, lose their lower flank. A peak of height 0 has no derivatives: do not start a fit there.")
+
+} // namespace ansatz::schulz_flory

@@ -47,8 +47,15 @@ Status refuse_with_offset(const Point& at) {
 }
 
 } // namespace
-} // namespace ansatz::weibull
 
-ANSATZ_MODEL(
-    Weibull,
-    ansatz::FormV<ansatz::weibull::value, ansatz::distribution::values, ansatz::weibull::refuse_with_offset>)
+ANSATZ_MODEL(Weibull, ValueOrRefusal<value, distribution::values, refuse_with_offset>)
+
+ANSATZ_PAGE(
+    Weibull, .title = "", .formula = "y = y0 + (k/b) u^(k - 1) exp(-u^k),  u = (x - x0)/b",
+    .parameters = {{"y0", "offset", Trait::offset},
+                   {"b", "scale (as x)", Trait::constant},
+                   {"k", "shape", Trait::shape},
+                   {"x0", "location, where the density begins", Trait::constant}},
+    .notes = "A density of area 1. Fails for b <= 0 and x <= x0: keep x0 below the smallest x (--upper x0).")
+
+} // namespace ansatz::weibull

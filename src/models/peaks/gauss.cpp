@@ -69,6 +69,15 @@ Status derivatives(const Point& at) {
 }
 
 } // namespace
-} // namespace ansatz::gauss
 
-ANSATZ_MODEL(Gauss, ansatz::FormD<ansatz::gauss::value, ansatz::gauss::derivatives>)
+ANSATZ_MODEL(Gauss, BothPaths<value, derivatives>)
+
+ANSATZ_PAGE(Gauss, .title = "", .formula = "y = y0 + sum A/(w sqrt(pi/2)) exp(-2 ((x - xc)/w)^2)",
+            .parameters = {{"y0", "offset", Trait::offset}},
+            .block = {{"xc", "centre", Trait::position},
+                      {"w", "width, twice the standard deviation", Trait::width},
+                      {"A", "area", Trait::area}},
+            .notes = "Fails for w = 0; the derivatives, and so a fit, fail for w < 0. A peak of area 0 has no "
+                     "derivatives: do not start a fit there.")
+
+} // namespace ansatz::gauss

@@ -62,8 +62,15 @@ Status derivatives(const Point& at) {
 }
 
 } // namespace
-} // namespace ansatz::gauss_amp
 
-ANSATZ_MODEL(
-    GaussAmp,
-    ansatz::FormE<ansatz::gauss_amp::value, ansatz::gauss_amp::derivatives, ansatz::Answers{.probe = true}>)
+ANSATZ_MODEL(GaussAmp, OnePath<value, derivatives, Answers{.probe = true}>)
+
+ANSATZ_PAGE(GaussAmp, .title = "", .formula = "y = y0 + sum A exp(-((x - xc)/w)^2/2)",
+            .parameters = {{"y0", "offset", Trait::offset}},
+            .block = {{"xc", "centre", Trait::position},
+                      {"w", "width, the standard deviation", Trait::width},
+                      {"A", "height", Trait::amplitude}},
+            .notes = "Gauss by its height. Fails for w = 0; w and -w give the same curve: bound w from below "
+                     "by 0. A peak of height 0 has no derivatives: do not start a fit there.")
+
+} // namespace ansatz::gauss_amp

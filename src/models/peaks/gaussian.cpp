@@ -57,6 +57,18 @@ struct Form {
 };
 
 } // namespace
-} // namespace ansatz::gaussian
 
-ANSATZ_MODEL(Gaussian, ansatz::gaussian::Form)
+ANSATZ_MODEL(Gaussian, Form)
+
+ANSATZ_PAGE(Gaussian, .title = "", .formula = "y = y0 + A/(w sqrt(pi/(4 ln 2))) exp(-4 ln 2 ((x - xc)/w)^2)",
+            .parameters = {{"y0", "offset", Trait::offset},
+                           {"xc", "centre", Trait::position},
+                           {"A", "area", Trait::area},
+                           {"w", "width, full at half maximum", Trait::width}},
+            .layout = {.lead = 1, .block = 3, .stride = 4, .counted = 3},
+            .notes = "One peak: mind the order, area before width. Fails for w = 0. A peak of area 0 has no "
+                     "derivatives: do not start a fit there. For several peaks take Gauss or GaussAmp; a "
+                     "program that calls this model with more parameters finds its peaks in blocks of four, of "
+                     "which the first is idle, although it counts one peak for every three.")
+
+} // namespace ansatz::gaussian

@@ -82,6 +82,15 @@ struct Form {
 };
 
 } // namespace
-} // namespace ansatz::lorentz
 
-ANSATZ_MODEL(Lorentz, ansatz::lorentz::Form)
+ANSATZ_MODEL(Lorentz, Form)
+
+ANSATZ_PAGE(Lorentz, .title = "", .formula = "y = y0 + sum (2 A/pi) w/(4 (x - xc)^2 + w^2)",
+            .parameters = {{"y0", "offset", Trait::offset}},
+            .block = {{"xc", "centre", Trait::position},
+                      {"w", "width, full at half maximum", Trait::width},
+                      {"A", "area", Trait::area}},
+            .notes = "Fails for w <= 0 of the first peak. Further widths may be negative, which turns the peak "
+                     "upside down: bound them from below.")
+
+} // namespace ansatz::lorentz

@@ -16,7 +16,6 @@
 //   the shape does better with numerical derivatives. FF_PROBE is answered with a code of the shape.
 
 #include "protocol/forms.h"
-#include "protocol/of_parameters.h"
 #include "special/gamma.h"
 
 namespace ansatz::pearson_vii {
@@ -30,9 +29,9 @@ Status value(const Point& at) {
     const auto [n, P, x, y, dyda] = at;
     const double w = P[4], m = P[5];
     if (w == 0 || m <= 0.5) return fail(at);
-    const double a = of_parameters<safe_pow>(0, 2.0, 1 / m);
+    const double a = of_parameters<safe_pow>(2.0, 1 / m);
     if (math_error()) return fail(at);
-    const double g = of_parameters<gamma_fn>(1, m) / of_parameters<gamma_fn>(2, m - 0.5);
+    const double g = of_parameters<gamma_fn>(m) / of_parameters<gamma_fn>(m - 0.5);
     const double s = sqrt(a - 1);
     const double height = 2 * P[3] * s * g / (w * sqrt_pi);
     if (math_error()) return fail(at);
@@ -48,7 +47,7 @@ Status derivatives(const Point& at) {
     const auto [n, P, x, y, dyda] = at;
     const double A = P[3], w = P[4], m = P[5];
     if (w == 0 || m <= 0.5) return fail(at);
-    const double a = of_parameters<safe_pow>(0, 2.0, 1 / m);
+    const double a = of_parameters<safe_pow>(2.0, 1 / m);
     if (math_error()) return fail(at);
     const double u = (x[1] - P[2]) / w;
     const double q = 4 * (a - 1) * (u * u) + 1;
@@ -56,8 +55,8 @@ Status derivatives(const Point& at) {
     if (math_error()) return fail(at);
 
     const double s = sqrt(a - 1);
-    const double Gm = of_parameters<gamma_fn>(1, m), Gh = of_parameters<gamma_fn>(2, m - 0.5);
-    const double slope_m = of_parameters<gamma_prime>(3, m), slope_h = of_parameters<gamma_prime>(4, m - 0.5);
+    const double Gm = of_parameters<gamma_fn>(m), Gh = of_parameters<gamma_fn>(m - 0.5);
+    const double slope_m = of_parameters<gamma_prime>(m), slope_h = of_parameters<gamma_prime>(m - 0.5);
     const double g = Gm / Gh;
     const double by_centre = 16 * (s * s * s) * A * m * (p / q) * u * g / (w * sqrt_pi * w);
     const double by_area = 2 * s * p * g / (w * sqrt_pi);
@@ -82,11 +81,24 @@ std::int32_t code(double m) {
 struct Form {
     static Status serve(unsigned flags, const Point& at) {
         if (flags & FF_PROBE) return answer_probe(at, code(at.P[5]), PROBE_MASK_ANSWER);
-        return FormD<value, derivatives, Answers{.query = 0}>::serve(flags, at);
+        return BothPaths<value, derivatives, Answers{.query = 0}>::serve(flags, at);
     }
 };
 
 } // namespace
-} // namespace ansatz::pearson_vii
 
-ANSATZ_MODEL(PearsonVII, ansatz::pearson_vii::Form)
+ANSATZ_MODEL(PearsonVII, Form)
+
+ANSATZ_PAGE(PearsonVII, .title = "",
+            .formula = "y = y0 + A 2 G(m) sqrt(2^(1/m) - 1)/(sqrt(pi) G(m - 1/2) w) (1 + 4 (2^(1/m) - 1) ((x - "
+                       "xc)/w)^2)^(-m), G the gamma function",
+            .parameters = {{"y0", "offset", Trait::offset},
+                           {"xc", "centre", Trait::position},
+                           {"A", "area", Trait::area},
+                           {"w", "width, full at half maximum", Trait::width},
+                           {"m", "shape: 1 is a Lorentzian, large values approach a Gaussian", Trait::shape}},
+            .notes = "Fails for w = 0, m <= 0.5 and m > 171. Above m = 20 or so the data hardly tell m from a "
+                     "Gaussian. The model has derivatives of its own, which it denies; the one by m is wrong, "
+                     "and a fit does not use them.")
+
+} // namespace ansatz::pearson_vii

@@ -137,8 +137,45 @@ Status convolution(const Point& at) {
 constexpr Answers answers{.query = 0, .probe = true};
 
 } // namespace
-} // namespace ansatz::voigt
 
-ANSATZ_MODEL(Voigt5, ansatz::FormV<ansatz::voigt::convolution, ansatz::voigt::answers>)
-ANSATZ_MODEL(PseudoVoigt1, ansatz::FormV<ansatz::voigt::one_width, ansatz::voigt::answers>)
-ANSATZ_MODEL(PseudoVoigt2, ansatz::FormV<ansatz::voigt::two_widths, ansatz::voigt::answers>)
+ANSATZ_MODEL(Voigt5, ValueOrRefusal<convolution, answers>)
+
+ANSATZ_PAGE(Voigt5, .title = "",
+            .formula = "y = y0 + sum A V(x - xc), V = Gaussian(wG) convolved with Lorentzian(wL), of area 1",
+            .parameters = {{"y0", "offset", Trait::offset}},
+            .block = {{"xc", "centre", Trait::position},
+                      {"A", "area", Trait::area},
+                      {"wG", "full width at half maximum of the Gaussian part", Trait::width},
+                      {"wL", "full width at half maximum of the Lorentzian part", Trait::width}},
+            .notes = "Good to 3e-6 of the height. Fails for wG = 0 and wL = 0, so a pure Gaussian or "
+                     "Lorentzian is out of reach: bound both from below. Meant for one peak: each further one "
+                     "has the shape of the peak before it added, so that the areas of several peaks are not "
+                     "their own. Take PsdVoigt1 or PsdVoigt2 for those.")
+
+ANSATZ_MODEL(PsdVoigt1, ValueOrRefusal<one_width, answers>)
+
+ANSATZ_PAGE(PsdVoigt1, .title = "",
+            .formula = "y = y0 + sum A ((1 - eta) 2 sqrt(ln 2/pi)/w exp(-4 ln 2 ((x - xc)/w)^2) + eta (2/pi) "
+                       "w/(4 (x - xc)^2 + w^2))",
+            .parameters = {{"y0", "offset", Trait::offset}},
+            .block = {{"xc", "centre", Trait::position},
+                      {"A", "area", Trait::area},
+                      {"w", "width, full at half maximum", Trait::width},
+                      {"eta", "Lorentzian fraction, 0 (Gaussian) .. 1 (Lorentzian)", Trait::fraction}},
+            .notes = "Fails for w <= 0. eta may leave 0..1, where the curve means nothing: bound it.")
+
+ANSATZ_MODEL(PsdVoigt2, ValueOrRefusal<two_widths, answers>)
+
+ANSATZ_PAGE(PsdVoigt2, .title = "",
+            .formula = "y = y0 + sum A ((1 - eta) 2 sqrt(ln 2/pi)/wG exp(-4 ln 2 ((x - xc)/wG)^2) + eta (2/pi) "
+                       "wL/(4 (x - xc)^2 + wL^2))",
+            .parameters = {{"y0", "offset", Trait::offset}},
+            .block = {{"xc", "centre", Trait::position},
+                      {"A", "area", Trait::area},
+                      {"wG", "full width at half maximum of the Gaussian part", Trait::width},
+                      {"wL", "full width at half maximum of the Lorentzian part", Trait::width},
+                      {"eta", "Lorentzian fraction, 0..1", Trait::fraction}},
+            .notes = "Fails for wG <= 0 and wL <= 0. Where eta is near 0 or 1 the data do not determine the "
+                     "width of the missing part; where wG and wL agree, PsdVoigt1 is enough.")
+
+} // namespace ansatz::voigt

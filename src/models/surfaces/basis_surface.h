@@ -66,7 +66,7 @@ template <std::size_t J, Basis<J> basis> struct Checked {
         return at.n <= 0 ? fail_surface(at) : fill<J, basis>(at, (at.n - 1) / size);
     }
 
-    using Form = FormD<value, derivatives>;
+    using Form = BothPaths<value, derivatives>;
 };
 
 template <std::size_t J, Basis<J> basis> struct Unchecked {
@@ -87,7 +87,7 @@ template <std::size_t J, Basis<J> basis> struct Unchecked {
 
     static Status derivatives(const Point& at) { return fill<J, basis>(at, at.n / size); }
 
-    using Form = FormD<value, derivatives>;
+    using Form = BothPaths<value, derivatives>;
 };
 
 } // namespace ansatz::basis_surface

@@ -19,6 +19,20 @@ basis_surface::Functions<5> chebyshev(double x1, double x2) {
 }
 
 } // namespace
-} // namespace ansatz::chebyshev2d
 
-ANSATZ_MODEL(Chebyshev2D, ansatz::basis_surface::Unchecked<5, ansatz::chebyshev2d::chebyshev>::Form)
+ANSATZ_MODEL(Chebyshev2D, basis_surface::Unchecked<5, chebyshev>::Form)
+
+ANSATZ_PAGE(
+    Chebyshev2D, .title = "",
+    .formula =
+        "y = y0 + a T1(x1) + b T2(x1) + c T1(x2) + d T2(x2) + f T1(x1) T1(x2),  T1(s) = s, T2(s) = 2 s^2 - 1",
+    .parameters = {{"y0", "offset", Trait::offset},
+                   {"a", "of T1(x1)", Trait::constant},
+                   {"b", "of T2(x1)", Trait::constant},
+                   {"c", "of T1(x2)", Trait::constant},
+                   {"d", "of T2(x2)", Trait::constant},
+                   {"f", "of T1(x1) T1(x2)", Trait::constant}},
+    .layout = {.lead = 1, .block = 5, .skipped = 0},
+    .notes = "Gives no number outside -1 <= x1, x2 <= 1: scale the data first.")
+
+} // namespace ansatz::chebyshev2d

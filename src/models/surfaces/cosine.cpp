@@ -16,6 +16,17 @@ basis_surface::Functions<5> cosines(double x1, double x2) {
 }
 
 } // namespace
-} // namespace ansatz::cosine
 
-ANSATZ_MODEL(Cosine, ansatz::basis_surface::Unchecked<5, ansatz::cosine::cosines>::Form)
+ANSATZ_MODEL(Cosine, basis_surface::Unchecked<5, cosines>::Form)
+
+ANSATZ_PAGE(Cosine, .title = "",
+            .formula = "y = y0 + a cos(x1) + b cos(2 x1) + c cos(x2) + d cos(2 x2) + f cos(x1) cos(x2)",
+            .parameters = {{"y0", "offset", Trait::offset},
+                           {"a", "of cos(x1)", Trait::constant},
+                           {"b", "of cos(2 x1)", Trait::constant},
+                           {"c", "of cos(x2)", Trait::constant},
+                           {"d", "of cos(2 x2)", Trait::constant},
+                           {"f", "of cos(x1) cos(x2)", Trait::constant}},
+            .layout = {.lead = 1, .block = 5, .skipped = 0}, .notes = "x1 and x2 in radians.")
+
+} // namespace ansatz::cosine

@@ -59,6 +59,18 @@ Status derivatives(const Point& at) {
 }
 
 } // namespace
-} // namespace ansatz::doseresp
 
-ANSATZ_MODEL(DoseResp, ansatz::FormD<ansatz::doseresp::value, ansatz::doseresp::derivatives>)
+ANSATZ_MODEL(DoseResp, BothPaths<value, derivatives>)
+
+ANSATZ_PAGE(
+    DoseResp, .title = "", .formula = "y = y0 + sum A/((1 + (x1/Dx)^(-hx)) (1 + (x2/Dy)^(-hy)))",
+    .parameters = {{"y0", "offset", Trait::offset}},
+    .block = {{"A", "full response", Trait::constant},
+              {"Dx", "half-effect dose on x1", Trait::constant},
+              {"hx", "slope, on the scale of ln x1", Trait::slope},
+              {"Dy", "half-effect dose on x2", Trait::constant},
+              {"hy", "slope, on the scale of ln x2", Trait::slope}},
+    .block_name = "term", .layout = {.lead = 1, .block = 5, .skipped = 0},
+    .notes = "Fails for x1 <= 0 and x2 <= 0; gives no number for negative Dx or Dy: bound them from below.")
+
+} // namespace ansatz::doseresp

@@ -56,6 +56,15 @@ Status derivatives(const Point& at) {
 }
 
 } // namespace
-} // namespace ansatz::exponential2d
 
-ANSATZ_MODEL(Exponential2D, ansatz::FormD<ansatz::exponential2d::value, ansatz::exponential2d::derivatives>)
+ANSATZ_MODEL(Exponential2D, BothPaths<value, derivatives>)
+
+ANSATZ_PAGE(Exponential2D, .title = "", .formula = "y = y0 + sum A exp(-x1/tx) exp(-x2/ty)",
+            .parameters = {{"y0", "offset", Trait::offset}},
+            .block = {{"A", "amplitude at the origin", Trait::amplitude},
+                      {"tx", "decay length along x1; negative: growth", Trait::constant},
+                      {"ty", "decay length along x2; negative: growth", Trait::constant}},
+            .block_name = "term", .layout = {.lead = 1, .block = 3, .skipped = 0},
+            .notes = "A factor beyond e^300 counts as zero. Do not start near a decay length of 0.")
+
+} // namespace ansatz::exponential2d

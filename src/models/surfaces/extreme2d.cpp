@@ -62,6 +62,19 @@ Status derivatives(const Point& at) {
 }
 
 } // namespace
-} // namespace ansatz::extreme2d
 
-ANSATZ_MODEL(Extreme2D, ansatz::FormD<ansatz::extreme2d::value, ansatz::extreme2d::derivatives>)
+ANSATZ_MODEL(Extreme2D, BothPaths<value, derivatives>)
+
+ANSATZ_PAGE(Extreme2D, .title = "",
+            .formula = "y = y0 + sum (b x2 + c x2^2 + A exp(1 - exp(-u) - u)),  u = (x1 - xc)/w",
+            .parameters = {{"y0", "offset", Trait::offset}},
+            .block = {{"b", "linear coefficient of x2", Trait::constant},
+                      {"c", "quadratic coefficient of x2", Trait::constant},
+                      {"A", "height of the peak along x1", Trait::amplitude},
+                      {"xc", "centre of the peak on x1", Trait::position},
+                      {"w", "width; negative: the long tail points to small x1", Trait::width}},
+            .block_name = "term", .layout = {.lead = 1, .block = 5, .skipped = 0},
+            .notes = "An asymmetric peak along x1 on a parabola along x2. With several terms only the sums of "
+                     "b and of c are determined.")
+
+} // namespace ansatz::extreme2d

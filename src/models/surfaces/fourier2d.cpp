@@ -57,6 +57,20 @@ Status derivatives(const Point& at) {
 }
 
 } // namespace
-} // namespace ansatz::fourier2d
 
-ANSATZ_MODEL(Fourier2D, ansatz::FormD<ansatz::fourier2d::value, ansatz::fourier2d::derivatives>)
+ANSATZ_MODEL(Fourier2D, BothPaths<value, derivatives>)
+
+ANSATZ_PAGE(Fourier2D, .title = "",
+            .formula = "y = y0 + sum (a cos(x1/Lx) + b sin(x1/Lx) + c cos(x2/Ly) + d sin(x2/Ly))",
+            .parameters = {{"y0", "offset", Trait::offset}},
+            .block = {{"a", "of cos(x1/Lx)", Trait::constant},
+                      {"b", "of sin(x1/Lx)", Trait::constant},
+                      {"c", "of cos(x2/Ly)", Trait::constant},
+                      {"d", "of sin(x2/Ly)", Trait::constant},
+                      {"Lx", "period along x1 divided by 2 pi", Trait::constant},
+                      {"Ly", "period along x2 divided by 2 pi", Trait::constant}},
+            .block_name = "term",
+            .notes = "Fails for a scale Lx or Ly of 0. Start the scales near their values: a fit finds the "
+                     "nearest of many minima.")
+
+} // namespace ansatz::fourier2d

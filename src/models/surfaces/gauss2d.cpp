@@ -15,7 +15,6 @@
 //   peaks.
 
 #include "models/surfaces/peak_surface.h"
-#include "protocol/of_parameters.h"
 
 namespace ansatz::gauss2d {
 namespace {
@@ -45,7 +44,7 @@ struct Upright : peak_surface::Block {
 
 struct Turned : peak_surface::Block {
     static constexpr int stride = 5, slots = 6, marked = 6;
-    double sin_t = of_parameters<sin>(2 * number, p[6]), cos_t = of_parameters<cos>(2 * number + 1, p[6]);
+    double sin_t = of_parameters<sin>(p[6]), cos_t = of_parameters<cos>(p[6]);
     double U = (x1 - xc) * cos_t + (x2 - yc) * sin_t;
     double V = (x2 - yc) * cos_t - (x1 - xc) * sin_t;
     double G = bell(U / wx, V / wy);
@@ -64,7 +63,34 @@ struct Turned : peak_surface::Block {
 };
 
 } // namespace
-} // namespace ansatz::gauss2d
 
-ANSATZ_MODEL(Gauss2D, ansatz::peak_surface::Form<ansatz::gauss2d::Upright>)
-ANSATZ_MODEL(Gaussian2D, ansatz::peak_surface::Form<ansatz::gauss2d::Turned>)
+ANSATZ_MODEL(Gauss2D, peak_surface::Form<Upright>)
+
+ANSATZ_PAGE(Gauss2D, .title = "", .formula = "y = y0 + sum A exp(-((x1 - xc)/wx)^2/2 - ((x2 - yc)/wy)^2/2)",
+            .parameters = {{"y0", "offset", Trait::offset}},
+            .block = {{"A", "height of the peak", Trait::amplitude},
+                      {"xc", "centre on x1", Trait::position},
+                      {"wx", "standard deviation along x1", Trait::width},
+                      {"yc", "centre on x2", Trait::position},
+                      {"wy", "the same along x2", Trait::constant}},
+            .notes = "Fails for a width of 0; a fit fails for negative widths: bound them from below. A peak "
+                     "of height 0 has no derivatives: do not start a fit there.")
+
+ANSATZ_MODEL(Gaussian2D, peak_surface::Form<Turned>)
+
+ANSATZ_PAGE(
+    Gaussian2D, .title = "",
+    .formula = "y = y0 + A exp(-(u/wx)^2/2 - (v/wy)^2/2),  u = (x1 - xc) cos(t) + (x2 - yc) sin(t), v = (x2 - "
+               "yc) cos(t) - (x1 - xc) sin(t)",
+    .parameters = {{"y0", "offset", Trait::offset},
+                   {"A", "height of the peak", Trait::amplitude},
+                   {"xc", "centre on x1", Trait::position},
+                   {"wx", "standard deviation along the turned first axis", Trait::width},
+                   {"yc", "centre on x2", Trait::position},
+                   {"wy", "standard deviation along the turned second axis", Trait::width},
+                   {"t", "angle of the axes in radians, from x1 towards x2", Trait::constant}},
+    .layout = {.lead = 1, .block = 6, .stride = 5},
+    .notes = "One peak. A turn by pi changes nothing, one by pi/2 exchanges the widths, and a round peak has "
+             "no angle. Fails for a width of 0; a fit fails for negative widths: bound them from below.")
+
+} // namespace ansatz::gauss2d

@@ -35,6 +35,17 @@ Status value(const Point& at) {
 }
 
 } // namespace
-} // namespace ansatz::gausscum
 
-ANSATZ_MODEL(GaussCum, ansatz::surfaces::ValueThenOffset<ansatz::gausscum::value>)
+ANSATZ_MODEL(GaussCum, surfaces::ValueThenOffset<value>)
+
+ANSATZ_PAGE(GaussCum, .title = "",
+            .formula = "y = y0 + sum A/4 (1 + erf((x1 - xc)/(sqrt(2) wx))) (1 + erf((x2 - yc)/(sqrt(2) wy)))",
+            .parameters = {{"y0", "offset", Trait::offset}},
+            .block = {{"A", "height of the plateau", Trait::amplitude},
+                      {"xc", "centre on x1", Trait::position},
+                      {"wx", "standard deviation along x1", Trait::width},
+                      {"yc", "centre on x2", Trait::position},
+                      {"wy", "the same along x2", Trait::constant}},
+            .block_name = "term", .notes = "A negative width turns the step round.")
+
+} // namespace ansatz::gausscum

@@ -35,6 +35,16 @@ Status value(const Point& at) {
 }
 
 } // namespace
-} // namespace ansatz::gausslog
 
-ANSATZ_MODEL(GaussLog, ansatz::surfaces::ValueThenOffset<ansatz::gausslog::value>)
+ANSATZ_MODEL(GaussLog, surfaces::ValueThenOffset<value>)
+
+ANSATZ_PAGE(GaussLog, .title = "", .formula = "y = y0 + sum A exp(-((x1 - xc)/wx)^2/2 - (ln(x2/yc)/wy)^2/2)",
+            .parameters = {{"y0", "offset", Trait::offset}},
+            .block = {{"A", "height of the peak", Trait::amplitude},
+                      {"xc", "centre on x1", Trait::position},
+                      {"wx", "standard deviation along x1", Trait::width},
+                      {"yc", "top on x2", Trait::level},
+                      {"wy", "width along x2, on the scale of ln x2", Trait::width}},
+            .notes = "Gaussian along x1, log-normal along x2. Fails for x2 <= 0 and yc < 0.")
+
+} // namespace ansatz::gausslog

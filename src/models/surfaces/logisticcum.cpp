@@ -65,6 +65,19 @@ Status derivatives(const Point& at) {
 }
 
 } // namespace
-} // namespace ansatz::logisticcum
 
-ANSATZ_MODEL(LogisticCum, ansatz::FormD<ansatz::logisticcum::value, ansatz::logisticcum::derivatives>)
+ANSATZ_MODEL(LogisticCum, BothPaths<value, derivatives>)
+
+ANSATZ_PAGE(LogisticCum, .title = "",
+            .formula = "y = y0 + sum A/((1 + exp(-(x1 - xc)/wx)) (1 + exp(-(x2 - yc)/wy)))",
+            .parameters = {{"y0", "offset", Trait::offset}},
+            .block = {{"A", "height of the plateau", Trait::amplitude},
+                      {"xc", "centre on x1", Trait::position},
+                      {"wx", "width of the step along x1", Trait::width},
+                      {"yc", "centre on x2", Trait::position},
+                      {"wy", "the same along x2", Trait::constant}},
+            .block_name = "term", .layout = {.lead = 1, .block = 5, .skipped = 0},
+            .notes = "A negative width turns the step round. More than 300 widths below a centre the step is "
+                     "back on its plateau: keep the data within that.")
+
+} // namespace ansatz::logisticcum

@@ -32,6 +32,18 @@ Status value(const Point& at) {
 }
 
 } // namespace
-} // namespace ansatz::logisticpeak
 
-ANSATZ_MODEL(LogisticPeak, ansatz::surfaces::ValueThenOffset<ansatz::logisticpeak::value>)
+ANSATZ_MODEL(LogisticPeak, surfaces::ValueThenOffset<value>)
+
+ANSATZ_PAGE(
+    LogisticPeak, .title = "", .formula = "y = y0 + sum (b x2 + 4 A e/(1 + e)^2),  e = exp((xc - x1)/w)",
+    .parameters = {{"y0", "offset", Trait::offset}},
+    .block = {{"b", "slope along x2", Trait::slope},
+              {"A", "height of the peak along x1", Trait::amplitude},
+              {"xc", "centre of the peak on x1", Trait::position},
+              {"w", "width (as x1); full width at half maximum is 3.525 w", Trait::width}},
+    .block_name = "term",
+    .notes =
+        "A symmetric peak along x1 on a slope along x2. With several terms only the sum of b is determined.")
+
+} // namespace ansatz::logisticpeak

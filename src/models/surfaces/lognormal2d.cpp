@@ -41,6 +41,20 @@ Status value(const Point& at) {
 }
 
 } // namespace
-} // namespace ansatz::lognormal2d
 
-ANSATZ_MODEL(LogNormal2D, ansatz::FormW<ansatz::lognormal2d::value>)
+ANSATZ_MODEL(LogNormal2D, ValueOrNothing<value>)
+
+ANSATZ_PAGE(LogNormal2D, .title = "",
+            .formula = "y = y0 + sum (Ax e1 + Ay e2 + Axy e1 e2),  e1 = exp(-(ln(x1/cx)/wx)^2/2), e2 = "
+                       "exp(-(ln(x2/cy)/wy)^2/2)",
+            .parameters = {{"y0", "offset", Trait::offset}},
+            .block = {{"Ax", "amplitude of the ridge across x1", Trait::amplitude},
+                      {"cx", "top of that ridge on x1", Trait::level},
+                      {"wx", "its width, on the scale of ln x1", Trait::constant},
+                      {"Ay", "amplitude of the ridge across x2", Trait::amplitude},
+                      {"cy", "top of that ridge on x2", Trait::level},
+                      {"wy", "its width, on the scale of ln x2", Trait::constant},
+                      {"Axy", "amplitude of the joint peak", Trait::amplitude}},
+            .block_name = "term", .notes = "Fails for x1/cx <= 0 and x2/cy <= 0.")
+
+} // namespace ansatz::lognormal2d

@@ -31,6 +31,17 @@ struct Shape : peak_surface::Block {
 };
 
 } // namespace
-} // namespace ansatz::lorentz2d
 
-ANSATZ_MODEL(Lorentz2D, ansatz::peak_surface::Form<ansatz::lorentz2d::Shape>)
+ANSATZ_MODEL(Lorentz2D, peak_surface::Form<Shape>)
+
+ANSATZ_PAGE(Lorentz2D, .title = "", .formula = "y = y0 + sum A/((1 + ((x1 - xc)/wx)^2) (1 + ((x2 - yc)/wy)^2))",
+            .parameters = {{"y0", "offset", Trait::offset}},
+            .block = {{"A", "height of the peak", Trait::amplitude},
+                      {"xc", "centre on x1", Trait::position},
+                      {"wx", "half width at half maximum along x1", Trait::constant},
+                      {"yc", "centre on x2", Trait::position},
+                      {"wy", "the same along x2", Trait::constant}},
+            .notes = "Fails for a width of 0; a fit fails for negative widths: bound them from below. A peak "
+                     "of height 0 has no derivatives: do not start a fit there.")
+
+} // namespace ansatz::lorentz2d

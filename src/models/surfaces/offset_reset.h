@@ -12,6 +12,6 @@ inline Status reset_to_offset(const Point& at) {
     return success;
 }
 
-template <Path value> using ValueThenOffset = FormD<value, reset_to_offset, Answers{.query = 0}>;
+template <Path value> using ValueThenOffset = BothPaths<value, reset_to_offset, Answers{.query = 0}>;
 
 } // namespace ansatz::surfaces

@@ -19,7 +19,6 @@ namespace ansatz::peak_surface {
 /// by A. It states the distance of its blocks (stride) and how many derivative slots a peak fills (slots) and
 /// loses on a failure (marked).
 struct Block {
-    int number; ///< of the peak, from 1
     const double* p;
     double x1, x2;
     double A = p[1], xc = p[2], wx = p[3], yc = p[4], wy = p[5];
@@ -39,7 +38,7 @@ template <class Shape> Status value(const Point& at) {
         const double* p = P + 1 + (i - 1) * Shape::stride;
         if (p[1] == 0) continue;
         if (p[3] == 0 || p[5] == 0) return fail_surface(at);
-        const double peak = Shape{{i, p, x[1], x[2]}}.component();
+        const double peak = Shape{{p, x[1], x[2]}}.component();
         if (math_error()) return fail_surface(at);
         y[i + 1] = peak;
         y[1] += peak;
@@ -65,7 +64,7 @@ template <class Shape> Status derivatives(const Point& at) {
             return fail_surface(at);
         };
         if (p[3] <= 0 || p[5] <= 0) return fail_peak();
-        const Shape shape{{i, p, x[1], x[2]}};
+        const Shape shape{{p, x[1], x[2]}};
         if (range_error()) return fail_peak();
         shape.partials(d);
         const double peak = shape.component();
@@ -75,6 +74,6 @@ template <class Shape> Status derivatives(const Point& at) {
     return success;
 }
 
-template <class Shape> using Form = FormD<value<Shape>, derivatives<Shape>>;
+template <class Shape> using Form = BothPaths<value<Shape>, derivatives<Shape>>;
 
 } // namespace ansatz::peak_surface

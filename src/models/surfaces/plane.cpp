@@ -22,6 +22,12 @@ Status derivatives(const Point& at) {
 }
 
 } // namespace
-} // namespace ansatz::plane
 
-ANSATZ_MODEL(Plane, ansatz::FormD<ansatz::plane::value, ansatz::plane::derivatives>)
+ANSATZ_MODEL(Plane, BothPaths<value, derivatives>)
+
+ANSATZ_PAGE(Plane, .title = "", .formula = "y = y0 + a x1 + b x2",
+            .parameters = {{"y0", "level at the origin", Trait::offset},
+                           {"a", "slope along x1", Trait::slope},
+                           {"b", "slope along x2", Trait::slope}})
+
+} // namespace ansatz::plane

@@ -17,6 +17,23 @@ basis_surface::Functions<10> powers(double x1, double x2) {
 }
 
 } // namespace
-} // namespace ansatz::polynomial2d
 
-ANSATZ_MODEL(Polynomial2D, ansatz::basis_surface::Unchecked<10, ansatz::polynomial2d::powers>::Form)
+ANSATZ_MODEL(Polynomial2D, basis_surface::Unchecked<10, powers>::Form)
+
+ANSATZ_PAGE(Polynomial2D, .title = "",
+            .formula = "y = y0 + a1 x1 + a2 x1^2 + .. + a5 x1^5 + b1 x2 + b2 x2^2 + .. + b5 x2^5",
+            .parameters = {{"y0", "level at the origin", Trait::offset},
+                           {"a1", "of x1", Trait::constant},
+                           {"a2", "of x1^2", Trait::constant},
+                           {"a3", "of x1^3", Trait::constant},
+                           {"a4", "of x1^4", Trait::constant},
+                           {"a5", "of x1^5", Trait::constant},
+                           {"b1", "of x2", Trait::constant},
+                           {"b2", "of x2^2", Trait::constant},
+                           {"b3", "of x2^3", Trait::constant},
+                           {"b4", "of x2^4", Trait::constant},
+                           {"b5", "of x2^5", Trait::constant}},
+            .layout = {.lead = 1, .block = 10, .skipped = 0},
+            .notes = "No mixed terms. Centre and scale x1 and x2 for the sake of the digits.")
+
+} // namespace ansatz::polynomial2d

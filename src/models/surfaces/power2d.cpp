@@ -56,7 +56,18 @@ Status derivatives(const Point& at) {
 }
 
 } // namespace
-} // namespace ansatz::power2d
 
-ANSATZ_MODEL(Power2D,
-             ansatz::FormD<ansatz::power2d::value, ansatz::power2d::derivatives, ansatz::Answers{.query = 0}>)
+ANSATZ_MODEL(Power2D, BothPaths<value, derivatives, Answers{.query = 0}>)
+
+ANSATZ_PAGE(
+    Power2D, .title = "", .formula = "y = y0 + sum (a x1^p + c x2^q + d x1^p x2^q)",
+    .parameters = {{"y0", "offset", Trait::offset}},
+    .block = {{"a", "of the power of x1", Trait::constant},
+              {"p", "power of x1", Trait::exponent},
+              {"c", "of the power of x2", Trait::constant},
+              {"q", "power of x2", Trait::exponent},
+              {"d", "of the product of both powers", Trait::constant}},
+    .block_name = "term", .layout = {.lead = 1, .block = 5, .skipped = 0},
+    .notes = "Gives no number for a negative x with a broken power, and infinity for 0 with a negative one.")
+
+} // namespace ansatz::power2d

@@ -21,7 +21,24 @@ basis_surface::Functions<5> poly(double x1, double x2) {
 }
 
 } // namespace
-} // namespace ansatz::quadric2d
 
-ANSATZ_MODEL(Parabola2D, ansatz::basis_surface::Checked<4, ansatz::quadric2d::parabola>::Form)
-ANSATZ_MODEL(Poly2D, ansatz::basis_surface::Checked<5, ansatz::quadric2d::poly>::Form)
+ANSATZ_MODEL(Parabola2D, basis_surface::Checked<4, parabola>::Form)
+
+ANSATZ_PAGE(Parabola2D, .title = "", .formula = "y = y0 + a x1 + b x2 + c x1^2 + d x2^2",
+            .parameters = {{"y0", "level at the origin", Trait::offset},
+                           {"a", "of x1", Trait::constant},
+                           {"b", "of x2", Trait::constant},
+                           {"c", "of x1^2", Trait::constant},
+                           {"d", "of x2^2", Trait::constant}})
+
+ANSATZ_MODEL(Poly2D, basis_surface::Checked<5, poly>::Form)
+
+ANSATZ_PAGE(Poly2D, .title = "", .formula = "y = y0 + a x1 + b x2 + c x1^2 + d x2^2 + f x1 x2",
+            .parameters = {{"y0", "level at the origin", Trait::offset},
+                           {"a", "of x1", Trait::constant},
+                           {"b", "of x2", Trait::constant},
+                           {"c", "of x1^2", Trait::constant},
+                           {"d", "of x2^2", Trait::constant},
+                           {"f", "of x1 x2", Trait::constant}})
+
+} // namespace ansatz::quadric2d

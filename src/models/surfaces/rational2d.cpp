@@ -70,8 +70,23 @@ Status derivatives(const Point& at) {
 }
 
 } // namespace
-} // namespace ansatz::rational2d
 
-ANSATZ_MODEL(
-    Rational2D,
-    ansatz::FormD<ansatz::rational2d::value, ansatz::rational2d::derivatives, ansatz::Answers{.query = 0}>)
+ANSATZ_MODEL(Rational2D, BothPaths<value, derivatives, Answers{.query = 0}>)
+
+ANSATZ_PAGE(
+    Rational2D, .title = "",
+    .formula = "y = sum (a + b x1 + c x2 + d x2^2 + f x2^3)/(1 + g x1 + h x1^2 + k x1^3 + m x2 + n x2^2)",
+    .block = {{"a", "constant above", Trait::constant},
+              {"b", "of x1 above", Trait::constant},
+              {"c", "of x2 above", Trait::constant},
+              {"d", "of x2^2 above", Trait::constant},
+              {"f", "of x2^3 above", Trait::constant},
+              {"g", "of x1 below", Trait::constant},
+              {"h", "of x1^2 below", Trait::constant},
+              {"k", "of x1^3 below", Trait::constant},
+              {"m", "of x2 below", Trait::constant},
+              {"n", "of x2^2 below", Trait::constant}},
+    .block_name = "term",
+    .notes = "Fails where a denominator is 0; near there it has a pole. Start from g, h, k, m, n = 0.")
+
+} // namespace ansatz::rational2d

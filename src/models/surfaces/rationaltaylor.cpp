@@ -71,7 +71,23 @@ Status derivatives(const Point& at) {
 }
 
 } // namespace
-} // namespace ansatz::rationaltaylor
 
-ANSATZ_MODEL(RationalTaylor, ansatz::FormD<ansatz::rationaltaylor::value, ansatz::rationaltaylor::derivatives,
-                                           ansatz::Answers{.query = 0}>)
+ANSATZ_MODEL(RationalTaylor, BothPaths<value, derivatives, Answers{.query = 0}>)
+
+ANSATZ_PAGE(
+    RationalTaylor, .title = "",
+    .formula = "y = sum (a + b x1 + c x2 + d x2^2 + f x1 x2)/(1 + g x1 + h x1^2 + k x2 + m x2^2 + n x1 x2)",
+    .block = {{"a", "constant above", Trait::constant},
+              {"b", "of x1 above", Trait::constant},
+              {"c", "of x2 above", Trait::constant},
+              {"d", "of x2^2 above", Trait::constant},
+              {"f", "of x1 x2 above", Trait::constant},
+              {"g", "of x1 below", Trait::constant},
+              {"h", "of x1^2 below", Trait::constant},
+              {"k", "of x2 below", Trait::constant},
+              {"m", "of x2^2 below", Trait::constant},
+              {"n", "of x1 x2 below", Trait::constant}},
+    .block_name = "term",
+    .notes = "Fails where a denominator is 0; near there it has a pole. Start from g, h, k, m, n = 0.")
+
+} // namespace ansatz::rationaltaylor

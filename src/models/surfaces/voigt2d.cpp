@@ -39,6 +39,24 @@ struct Shape : peak_surface::Block {
 };
 
 } // namespace
-} // namespace ansatz::voigt2d
 
-ANSATZ_MODEL(Voigt2D, ansatz::peak_surface::Form<ansatz::voigt2d::Shape>)
+ANSATZ_MODEL(Voigt2D, peak_surface::Form<Shape>)
+
+ANSATZ_PAGE(
+    Voigt2D, .title = "",
+    .formula = "y = y0 + sum A ((1 - f) exp(-u^2/2 - v^2/2) + f/((1 + u^2) (1 + v^2))),  u = (x1 - xc)/wx, v = "
+               "(x2 - yc)/wy",
+    .parameters = {{"y0", "offset", Trait::offset}},
+    .block =
+        {{"A", "height of the peak", Trait::amplitude},
+         {"xc", "centre on x1", Trait::position},
+         {"wx",
+          "width along x1: standard deviation of the Gaussian part, half width at half maximum of the other",
+          Trait::width},
+         {"yc", "centre on x2", Trait::position},
+         {"wy", "the same along x2", Trait::constant},
+         {"f", "fraction of the Lorentzian part, 0 to 1", Trait::fraction}},
+    .notes = "Fails for a width of 0; a fit fails for negative widths: bound them from below. A peak of height "
+             "0 has no derivatives: do not start a fit there.")
+
+} // namespace ansatz::voigt2d

@@ -1,0 +1,89 @@
+// The frame of the asymmetric peaks: a common offset P1, then equal blocks of parameters, one per peak.
+//
+// The number of peaks is (nParams - 1) / size; parameters behind the last whole block are ignored. y[i+1] is
+// peak i alone. A peak whose amplitude (or area) is exactly 0 is skipped, whatever its other parameters: its
+// component keeps what it held, its derivatives are 0. Fails for nParams < 1, for parameters that the peak does
+// not allow, and on an error of its library calls, which is looked for once per peak, so that a pending one is
+// seen even where none was called; the derivatives then mark dyda[1] and the failing peak's block.
+//
+// A peak is a struct of
+//   size                parameters per block
+//   amplitude           where in the block, from 0, the amplitude stands
+//   allows(p)           are the block's parameters, p[0] .. p[size - 1], in the domain?
+//   value(x, p)         the contribution
+//   slopes(x, p, d)     the contribution, and its derivatives by p[0].. into d[0].., where the peak has them
+#pragma once
+
+#include "protocol/forms.h"
+
+#include <algorithm>
+
+namespace ansatz::blocks {
+
+template <class Peak> Status value(const Point& at) {
+    const auto [n, P, x, y, dyda] = at;
+    if (n < 1) return fail(at);
+    double sum = P[1];
+    const int peaks = (n - 1) / Peak::size;
+    const double* p = P + 2;
+    for (int i = 1; i <= peaks; ++i, p += Peak::size) {
+        if (p[Peak::amplitude] == 0) continue;
+        if (!Peak::allows(p)) return fail(at);
+        const double peak = Peak::value(x[1], p);
+        if (math_error()) return fail(at);
+        y[i + 1] = peak;
+        sum += peak;
+    }
+    y[1] = sum;
+    return success;
+}
+
+template <class Peak> Status derivatives(const Point& at) {
+    const auto [n, P, x, y, dyda] = at;
+    if (n < 1) return fail(at);
+    dyda[1] = 1;
+    double sum = P[1];
+    const int peaks = (n - 1) / Peak::size;
+    const double* p = P + 2;
+    double* d = dyda + 2;
+    const auto failed = [&] {
+        std::fill_n(d, Peak::size, MISSING_VALUE);
+        return fail(at, 1);
+    };
+    for (int i = 1; i <= peaks; ++i, p += Peak::size, d += Peak::size) {
+        if (p[Peak::amplitude] == 0) {
+            std::fill_n(d, Peak::size, 0.0);
+            continue;
+        }
+        if (!Peak::allows(p)) return failed();
+        const double peak = Peak::slopes(x[1], p, d);
+        if (math_error()) return failed();
+        y[i + 1] = peak;
+        sum += peak;
+    }
+    y[1] = sum;
+    return success;
+}
+
+template <class Peak, Answers answers = Answers{}> using BothPaths =
+    ansatz::BothPaths<value<Peak>, derivatives<Peak>, answers>;
+
+/// Values only; these all answer the probe.
+template <class Peak> using ValueOrRefusal =
+    ansatz::ValueOrRefusal<value<Peak>, Answers{.query = 0, .probe = true}>;
+
+/// For a peak that is 0, with all its derivatives, at this x.
+template <int size> double nothing(double* d) {
+    std::fill_n(d, size, 0.0);
+    return 0;
+}
+
+/// e^t whose overflow is no error: the term is infinite, and what it damps reaches its limit, 0.
+inline double saturating_exp(double t) {
+    const int before = indicator();
+    const double r = safe_exp(t);
+    if (std::isinf(r)) indicator() = before;
+    return r;
+}
+
+} // namespace ansatz::blocks
