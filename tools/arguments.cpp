@@ -106,13 +106,13 @@ std::vector<double> parameter_values(const host::Model& model, const std::vector
                          [](const Item& item) { return item.value.has_value(); });
     int n = model.default_size();
     if (model.replicated()) {
-        const host::Description& text = *model.description();
+        const Page& text = *model.page();
         const int lead = static_cast<int>(text.parameters.size()), size = static_cast<int>(text.block.size());
         const auto known = [&](int count) {
             const auto slots = model.slots(lead + count * size);
             return std::ranges::all_of(named, [&](const Item& item) {
                 return std::ranges::any_of(slots, [&](const host::Slot& slot) {
-                    return host::same_name(slot.symbol, item.name) || host::same_name(slot.number, item.name);
+                    return same_name(slot.symbol, item.name) || same_name(slot.number, item.name);
                 });
             });
         };

@@ -39,7 +39,7 @@ int eval(const EvalOptions& options) {
     for (Eigen::Index d = 0; d < result.y.cols(); ++d) add(indexed("y", d, result.y.cols()), result.y.col(d));
     if (result.components.cols() > 1) {
         for (Eigen::Index i = 0; i < result.components.cols(); ++i) {
-            add(fmt::format("{}{}", model.description()->block_name, i + model.description()->first_block),
+            add(fmt::format("{}{}", model.page()->block_name, i + model.page()->first_block),
                 result.components.col(i));
         }
     }

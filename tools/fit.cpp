@@ -152,7 +152,7 @@ std::string scatter_remark(const host::Data& data, const host::Fit& fit,
 void print_text(const host::Model& model, const host::Fit& fit, const std::string& source,
                 const std::string& scatter) {
     fmt::print("{}", model.name());
-    if (model.description()) fmt::print(":  {}", model.description()->formula);
+    if (model.page()) fmt::print(":  {}", model.page()->formula);
     fmt::print("\n{} points from {}; {} after {} iterations{}\n\n", fit.points, source, fit.termination,
                fit.iterations, fit.numerical ? ", derivatives by differences" : "");
 

@@ -33,7 +33,7 @@ int list(const ListOptions& options) {
     for (const std::string& name : host::model_names()) {
         if (!matches(name, options.pattern)) continue;
         host::Model model = host::Model::find(name);
-        found[model.family()].push_back(std::move(model));
+        found[model.page()->family].push_back(std::move(model));
     }
     if (found.empty()) {
         const auto nearest = host::nearest_names(options.pattern);
@@ -41,14 +41,10 @@ int list(const ListOptions& options) {
             fmt::format("no model's name contains or matches '{}'{}", options.pattern,
                         nearest.empty() ? "" : fmt::format("; near it: {}", fmt::join(nearest, ", "))));
     }
-    std::vector<std::string_view> order;
-    for (const host::Family& family : host::families()) order.push_back(family.title);
-    order.push_back(host::Described{}.family);
-
     Json json = Json::array();
     bool first = true;
-    for (const std::string_view family : order) {
-        const auto group = found.extract(family); // once, also where two files share a title
+    for (const std::string_view family : families()) {
+        const auto group = found.extract(family);
         if (group.empty()) continue;
         TextTable table({{"model", Align::left},
                          {"x", Align::right},
@@ -57,14 +53,12 @@ int list(const ListOptions& options) {
                          {"formula", Align::left}});
         for (const host::Model& model : group.mapped()) {
             json.push_back(describe_json(model));
-            std::string formula(model.description() ? model.description()->formula : "");
-            if (model.reserved()) formula = "reserved name, computes nothing";
             table.add({model.name(), fmt::format("{}", model.inputs()),
                        model.implicit() ? "0" : fmt::format("{}", model.outputs()), parameter_count(model),
-                       formula});
+                       std::string(model.reserved() ? "reserved name, computes nothing" : model.page()->formula)});
         }
         if (options.json) continue;
-        fmt::print("{}{}\n{}", first ? "" : "\n", family, table.text());
+        fmt::print("{}{}\n{}", first ? "" : "\n", family_title(family), table.text());
         first = false;
     }
     if (options.json) fmt::print("{}\n", json.dump(2));

@@ -17,7 +17,7 @@ Drawing drawing_of(const host::Model& model) {
     if (model.inputs() == 1) return plot_curves;
     if (model.inputs() != 2) return nullptr;
     if (model.outputs() == 1) return plot_surface;
-    return model.description() && model.description()->paired ? plot_curves : nullptr;
+    return model.page() && model.page()->paired ? plot_curves : nullptr;
 }
 
 } // namespace

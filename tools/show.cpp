@@ -28,23 +28,19 @@ int show(const ShowOptions& options) {
         fmt::print("{}\n", describe_json(model).dump(2));
         return done;
     }
-    const host::Description* text = model.description();
-    fmt::print("{}  ({})\n", model.name(), model.family());
+    const Page* text = model.page();
+    fmt::print("{}  ({})\n", model.name(), family_title(text->family));
     if (model.reserved()) {
         fmt::print("\n  {}\n", text->notes);
         return done;
     }
-    if (text) fmt::print("\n  {}\n", text->formula);
+    fmt::print("\n  {}\n", text->formula);
 
     const int n = model.default_size();
     TextTable table({{"", Align::left}, {"symbol", Align::left}, {"meaning", Align::left}});
-    const auto reference = [](host::Role role) {
-        return role == host::Role::reference ? " (reference position, held fixed)" : "";
-    };
     const auto slots = model.slots(n);
     for (const host::Slot& slot : slots) {
-        table.add(
-            {slot.number, slot.symbol == slot.number ? "" : slot.symbol, slot.meaning + reference(slot.role)});
+        table.add({slot.number, slot.symbol, slot.meaning + (slot.reference() ? " (reference position, held fixed)" : "")});
     }
     fmt::print("\nParameters ({})\n{}", parameter_count(model), table.text());
     if (model.replicated()) {
@@ -62,7 +58,7 @@ int show(const ShowOptions& options) {
     }
     fmt::print("Derivatives  {}\n", model.analytic() ? "analytic" : "numerical, by the host");
     if (model.components(n) > 0) fmt::print("Components   one per {}, without the offset\n", text->block_name);
-    if (text && !text->notes.empty()) fmt::print("\n{}\n", wrapped(text->notes));
+    if (!text->notes.empty()) fmt::print("\n{}\n", wrapped(text->notes));
     return done;
 }
 

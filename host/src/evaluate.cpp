@@ -9,9 +9,6 @@
 namespace ansatz::host {
 namespace {
 
-/// Zero slots behind the last parameter: some models read or write a little further than their row says.
-constexpr std::size_t padding = 16;
-
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 
 std::size_t size(auto n) {
@@ -26,8 +23,8 @@ bool usable(double value) {
 
 Evaluator::Evaluator(const Model& model, const Eigen::VectorXd& parameters, Derivatives source)
     : model_(model), n_(static_cast<int>(parameters.size())),
-      analytic_(source == Derivatives::best && model.analytic()), P_(size(n_) + 1 + padding), y_(P_.size()),
-      dyda_(P_.size()), result_(P_.size()), jacobian_(model.outputs(), n_) {
+      analytic_(source == Derivatives::best && model.analytic()), P_(1 + size(model.slots_used(n_))), y_(P_.size() + size(model.outputs())),
+      dyda_(P_.size()), result_(y_.size()), jacobian_(model.outputs(), n_) {
     model.require_size(n_);
     set_parameters(parameters);
 }

@@ -490,7 +490,7 @@ std::vector<Start> starts(const Model& model, const std::vector<double>& values)
     const auto slots = model.slots(static_cast<int>(values.size()));
     std::vector<Start> result;
     for (std::size_t k = 0; k < values.size(); ++k) {
-        result.push_back({.value = values[k], .fixed = slots[k].role == Role::reference});
+        result.push_back({.value = values[k], .fixed = slots[k].reference()});
     }
     return result;
 }

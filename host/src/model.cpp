@@ -46,10 +46,6 @@ std::string unknown_model_message(const std::string& name, const std::vector<std
 UnknownModel::UnknownModel(const std::string& name, std::vector<std::string> nearest)
     : Error(unknown_model_message(name, nearest)), nearest_(std::move(nearest)) {}
 
-bool same_name(std::string_view a, std::string_view b) {
-    return lower(a) == lower(b);
-}
-
 const std::vector<std::string>& model_names() {
     static const auto names = [] {
         static std::vector<std::string> lines; // the callback has no other way out
@@ -88,21 +84,21 @@ std::vector<std::string> nearest_names(std::string_view name, std::size_t most) 
 }
 
 Model::Model(std::string name, FitFunction routine, int independent, int dependent, int parameters,
-             Described text_of)
+             const Page* page)
     : name_(std::move(name)), function_(routine), inputs_(independent), outputs_(dependent),
-      default_size_(parameters), described_(text_of) {
-    if (const Description* text = description(); text && !text->reserved) {
-        inputs_ = std::max(inputs_, text->inputs);
-        if (text->block.empty()) default_size_ = static_cast<int>(text->parameters.size());
+      default_size_(parameters), page_(page) {
+    if (page && !page->reserved) {
+        inputs_ = std::max(inputs_, page->inputs);
+        if (page->block.empty()) default_size_ = static_cast<int>(page->parameters.size());
     }
     double nothing[2] = {};
     analytic_ = function_(FF_QUERY_DERIV, 0, default_size_, 0, 0, nothing, 0, nothing, nothing, nothing) == 1 &&
-                (!description() || description()->true_derivatives);
+                (!page || page->true_derivatives);
 }
 
 Model Model::custom(std::string name, FitFunction routine, int independent, int dependent, int parameters,
-                    const Description* text) {
-    return {std::move(name), routine, independent, dependent, parameters, {text, "Custom"}};
+                    const Page* page) {
+    return {std::move(name), routine, independent, dependent, parameters, page};
 }
 
 std::optional<Model> Model::lookup(std::string_view name) {
@@ -112,7 +108,7 @@ std::optional<Model> Model::lookup(std::string_view name) {
     if (!routine) return std::nullopt;
     const auto known = std::ranges::find_if(model_names(), [&](const auto& n) { return same_name(n, name); });
     const std::string& spelling = known == model_names().end() ? text : *known;
-    Model model(spelling, routine, independent, dependent, parameters, describe(spelling));
+    Model model(spelling, routine, independent, dependent, parameters, find_page(spelling));
     model.batch_ = ansatz_batch_find(spelling.c_str());
     return model;
 }
@@ -123,40 +119,43 @@ Model Model::find(std::string_view name) {
 }
 
 bool Model::replicated() const {
-    return description() && !description()->block.empty();
+    return page_ && !page_->block.empty();
 }
 
 bool Model::implicit() const {
-    return description() && description()->implicit;
+    return page_ && page_->implicit;
 }
 
 bool Model::reserved() const {
-    return description() && description()->reserved;
+    return page_ && page_->reserved;
 }
 
 int Model::blocks(int n) const {
     if (!replicated()) return 0;
-    const int lead = static_cast<int>(description()->parameters.size());
-    const int size = static_cast<int>(description()->block.size());
+    const int lead = static_cast<int>(page_->parameters.size()), size = static_cast<int>(page_->block.size());
     return std::max(0, (n - lead) / size);
 }
 
+int Model::slots_used(int n) const {
+    return std::max(n, page_ ? layout_of(*page_).slots(n) : default_size_);
+}
+
 int Model::components(int n) const {
-    return outputs() == 1 && replicated() && description()->components ? blocks(n) : 0;
+    return outputs() == 1 && replicated() && page_->components ? blocks(n) : 0;
 }
 
 void Model::require_size(int n) const {
     if (reserved()) throw Error(fmt::format("{} is a reserved name that computes nothing", name_));
-    if (!description()) {
+    if (!page_) {
         if (n >= default_size_) return;
         throw Error(fmt::format("{} needs {} parameters, {} given", name_, default_size_, n));
     }
-    const auto symbols = [](const std::vector<ParameterText>& parameters) {
+    const auto symbols = [](const auto& parameters) {
         std::vector<std::string_view> list;
-        for (const ParameterText& parameter : parameters) list.push_back(parameter.symbol);
+        for (const Parameter& parameter : parameters) list.push_back(parameter.symbol);
         return list;
     };
-    const Description& text = *description();
+    const Page& text = *page_;
     if (!replicated()) {
         if (n == default_size_) return;
         throw Error(fmt::format("{} needs {} parameters ({}), {} given", name_, default_size_,
@@ -176,25 +175,26 @@ void Model::require_size(int n) const {
 
 std::vector<Slot> Model::slots(int n) const {
     std::vector<Slot> result;
-    const auto add = [&](std::string_view symbol, std::string_view meaning, Role role) {
+    const auto add = [&](std::string_view symbol, std::string_view meaning, Trait trait) {
         std::string number = fmt::format("P{}", result.size() + 1);
-        result.push_back({number, symbol.empty() ? number : std::string(symbol), std::string(meaning), role});
+        result.push_back({number, symbol.empty() ? number : std::string(symbol), std::string(meaning), trait});
     };
-    if (const Description* text = description(); text && !text->reserved) {
-        for (const auto& [symbol, meaning, role] : text->parameters) add(symbol, meaning, role);
+    if (page_ && !page_->reserved) {
+        for (const Parameter& p : page_->parameters) add(p.symbol, p.meaning, p.trait);
         const int count = blocks(n);
         for (int block = 0; block < count; ++block) {
-            for (const auto& [symbol, meaning, role] : text->block) {
-                if (count == 1 && text->first_block == 1) {
-                    add(symbol, meaning, role);
+            for (const Parameter& p : page_->block) {
+                if (count == 1 && page_->first_block == 1) {
+                    add(p.symbol, p.meaning, p.trait);
                 } else {
-                    add(fmt::format("{}{}{}", symbol, digit_last(symbol) ? "_" : "", block + text->first_block),
-                        meaning, role);
+                    add(fmt::format("{}{}{}", p.symbol, digit_last(p.symbol) ? "_" : "",
+                                    block + page_->first_block),
+                        p.meaning, p.trait);
                 }
             }
         }
     }
-    while (static_cast<int>(result.size()) < n) add({}, {}, Role::estimated);
+    while (static_cast<int>(result.size()) < n) add({}, {}, Trait::constant);
     return result;
 }
 

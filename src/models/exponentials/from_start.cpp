@@ -164,7 +164,7 @@ ANSATZ_PAGE(Kinetic, .title = "", .formula = "y = y0 + sum A exp(-(x - x0)/t) fo
                            {"x0", "start time", Trait::constant}},
             .block = {{"A", "amplitude, at x = x0", Trait::amplitude},
                       {"t", "decay time, unit of x", Trait::constant}},
-            .block_name = "term", .most_blocks = 3, .components = false,
+            .block_name = "term", .most_blocks = 3, .components = false, .layout = {.lead = 8},
             .notes = "Fails for a time <= 0. Hold x0 fixed in a fit: between two data points it only rescales "
                      "the amplitudes, and the fit cannot move it across one.")
 

@@ -53,7 +53,7 @@ ANSATZ_PAGE(
               {"yc", "location of that step", Trait::constant},
               {"wy", "its width (as x2)", Trait::constant},
               {"Axy", "height of the joint step", Trait::amplitude}},
-    .block_name = "term",
+    .block_name = "term", .layout = {.lead = 1, .block = 7, .skipped = 0},
     .notes = "A negative width turns a step round. More than 300 widths below a location the step is back on "
              "its plateau: keep the data within that.")
 

@@ -46,6 +46,7 @@ ANSATZ_PAGE(GaussCum, .title = "",
                       {"wx", "standard deviation along x1", Trait::width},
                       {"yc", "centre on x2", Trait::position},
                       {"wy", "the same along x2", Trait::constant}},
-            .block_name = "term", .notes = "A negative width turns the step round.")
+            .block_name = "term", .layout = {.lead = 1, .block = 5, .skipped = 0},
+            .notes = "A negative width turns the step round.")
 
 } // namespace ansatz::gausscum

@@ -45,6 +45,7 @@ ANSATZ_PAGE(GaussLog, .title = "", .formula = "y = y0 + sum A exp(-((x1 - xc)/wx
                       {"wx", "standard deviation along x1", Trait::width},
                       {"yc", "top on x2", Trait::level},
                       {"wy", "width along x2, on the scale of ln x2", Trait::width}},
+            .layout = {.lead = 1, .block = 5, .skipped = 0},
             .notes = "Gaussian along x1, log-normal along x2. Fails for x2 <= 0 and yc < 0.")
 
 } // namespace ansatz::gausslog

@@ -42,7 +42,7 @@ ANSATZ_PAGE(
               {"A", "height of the peak along x1", Trait::amplitude},
               {"xc", "centre of the peak on x1", Trait::position},
               {"w", "width (as x1); full width at half maximum is 3.525 w", Trait::width}},
-    .block_name = "term",
+    .block_name = "term", .layout = {.lead = 1, .block = 4, .skipped = 0},
     .notes =
         "A symmetric peak along x1 on a slope along x2. With several terms only the sum of b is determined.")
 

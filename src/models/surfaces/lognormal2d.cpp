@@ -55,6 +55,7 @@ ANSATZ_PAGE(LogNormal2D, .title = "",
                       {"cy", "top of that ridge on x2", Trait::level},
                       {"wy", "its width, on the scale of ln x2", Trait::constant},
                       {"Axy", "amplitude of the joint peak", Trait::amplitude}},
-            .block_name = "term", .notes = "Fails for x1/cx <= 0 and x2/cy <= 0.")
+            .block_name = "term", .layout = {.lead = 1, .block = 7, .skipped = 0},
+            .notes = "Fails for x1/cx <= 0 and x2/cy <= 0.")
 
 } // namespace ansatz::lognormal2d

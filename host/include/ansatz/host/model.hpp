@@ -1,10 +1,10 @@
-// A model of the library as a C++ value: its dimensions, its parameters' names, its description.
+// A model of the library as a C++ value: its dimensions, its parameters' names, its page.
 #pragma once
 
 #include <ansatz/ansatz.h>
 #include <ansatz/batch.h>
-#include <ansatz/host/description.hpp>
 #include <ansatz/host/error.hpp>
+#include <ansatz/page.hpp>
 
 #include <optional>
 #include <string>
@@ -19,15 +19,15 @@ const std::vector<std::string>& model_names();
 /// Up to `most` names similar to this one, the most similar first.
 std::vector<std::string> nearest_names(std::string_view name, std::size_t most = 3);
 
-/// Do two names agree in any mix of upper and lower case?
-bool same_name(std::string_view a, std::string_view b);
-
 /// One parameter slot. P1 has index 0 here and in every vector of parameter values.
 struct Slot {
     std::string number;  ///< "P3"
-    std::string symbol;  ///< "w", or "w1", "w2" with several peaks; the number where there is no description
+    std::string symbol;  ///< "w", or "w1", "w2" with several peaks; the number where there is no page
     std::string meaning; ///< may be empty
-    Role role = Role::estimated;
+    Trait trait = Trait::constant;
+    /// Expected-value models are written in terms of the response expected at some x, which the user chooses: a fit holds
+    /// that x fixed unless told otherwise.
+    bool reference() const { return trait == Trait::reference; }
 };
 
 class Model {
@@ -36,10 +36,10 @@ public:
     static Model find(std::string_view name);
     static std::optional<Model> lookup(std::string_view name);
 
-    /// A routine of the caller's own that keeps to the protocol of ansatz.h. The description may be null and
-    /// must outlive the model.
+    /// A routine of the caller's own that keeps to the protocol of ansatz.h. The page may be null and must
+    /// outlive the model.
     static Model custom(std::string name, FitFunction routine, int independent, int dependent, int parameters,
-                        const Description* text = nullptr);
+                        const Page* page = nullptr);
 
     const std::string& name() const { return name_; } ///< as in the catalogue
     FitFunction function() const { return function_; }
@@ -47,8 +47,7 @@ public:
     int inputs() const { return inputs_; }                   ///< number of independent variables
     int outputs() const { return outputs_; }                 ///< number of dependent variables, 1 or 2
     bool analytic() const { return analytic_; }              ///< does it offer true derivatives of y[1]?
-    const Description* description() const { return described_.text; }
-    std::string_view family() const { return described_.family; }
+    const Page* page() const { return page_; }               ///< null for a custom routine without one
 
     bool replicated() const; ///< does the number of parameters decide the number of peaks or terms?
     bool implicit() const;
@@ -59,10 +58,11 @@ public:
     int default_size() const { return default_size_; }
 
     /// Throws Error, naming the parameters, unless the model can be called with n parameters. A model without
-    /// description takes any n from its default on: its row does not tell whether it has peaks.
+    /// a page takes any n from its default on: its row does not tell whether it has peaks.
     void require_size(int n) const;
 
     int blocks(int n) const;     ///< number of peaks or terms among n parameters; 0 for a model of fixed size
+    int slots_used(int n) const; ///< the last slot that a call with n parameters reads or writes
     int components(int n) const; ///< number of contributions behind y[1]
     std::vector<Slot> slots(int n) const;
 
@@ -71,14 +71,14 @@ public:
 
 private:
     Model(std::string name, FitFunction routine, int independent, int dependent, int parameters,
-          Described text_of);
+          const Page* page);
 
     std::string name_;
     FitFunction function_ = nullptr;
     const AnsatzBatchModel* batch_ = nullptr;
     int inputs_ = 0, outputs_ = 0, default_size_ = 0;
     bool analytic_ = false;
-    Described described_;
+    const Page* page_ = nullptr;
 };
 
 } // namespace ansatz::host
