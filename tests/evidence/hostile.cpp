@@ -379,11 +379,11 @@ private:
             demand(status_ == 0 || status_ == 1 || (c.idle == "own" && !(flags_ & 6) && status_ == byte),
                    "status");
             const bool value_only =
-                !(flags_ & FF_DERIV) || (flags_ & FF_VALUE && c.form != "D" && c.form != "own");
+                !(flags_ & FF_DERIV) || (flags_ & FF_VALUE && c.form != "both" && c.form != "own");
             demand(!value_only || untouched(d_now_) || mark_derivatives.contains(c.name),
                    "wrote a derivative on a value request");
             demand(c.query >= 0 || silent, "a reserved name wrote something");
-            const bool refused = c.form == "V" && !(flags_ & FF_VALUE);
+            const bool refused = c.form == "refuse" && !(flags_ & FF_VALUE);
             if (status_ == failure && c.query >= 0 && !refused)
                 demand(indicator_ == 0 || (indicator_ == entry_ && keep_indicator.contains(c.name)) ||
                            set_indicator.contains(c.name),

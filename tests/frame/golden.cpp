@@ -31,6 +31,7 @@ void read_family(const std::filesystem::path& file, std::vector<GoldenRow>& rows
         line >> kind;
         if (kind == "row") {
             GoldenRow& row = rows.emplace_back();
+            row.family = file.stem().string();
             line >> row.name >> word >> row.form >> word >> row.query >> word >> row.probe >> word >>
                 row.idle >> word >> row.derivatives >> word >> row.slack;
         } else if (kind == "at") {

@@ -25,7 +25,7 @@ struct GoldenPoint {
 };
 
 struct GoldenRow {
-    std::string name, form, probe, idle;
+    std::string family, name, form, probe, idle; ///< as tests/golden/laws.py describes them
     int query = 0;
     bool derivatives = false;
     double slack = 1;

@@ -2,7 +2,7 @@
 
 A family's module states its rows:
 
-    @row("Allometric1", form="D", points=draw(8, P=[(0.5, 3), (-2, 2)], x=(0.2, 5)))
+    @row("Allometric1", form="both", points=draw(8, P=[(0.5, 3), (-2, 2)], x=(0.2, 5)))
     def allometric1(P, x):
         return P[1] * x ** P[2]
 
@@ -15,6 +15,14 @@ Partial derivatives are taken from the law numerically, at a precision that leav
 from the true derivative on purpose is given by its own formula in `stated`. Beside each number stands its
 condition: the sum of |d(number)/d(input) * input| over all inputs, which is by how much a relative
 error in the inputs is magnified; the comparison is scaled by it.
+
+The form of a model says what becomes of requests:
+
+    both     a call for value and derivatives runs both paths
+    one      a call for value and derivatives runs one path: the value's wins
+    refuse   value only: a request for derivatives is refused with status 1
+    ignore   value only: a request for derivatives is answered 0 and ignored
+    own      request rules of its own, which its cases pin
 """
 
 import random
@@ -55,13 +63,19 @@ def draw(count, P, x, seed=0, n=None):
     return [([pick(b) for b in P], [pick(b) for b in ranges]) for _ in range(count)]
 
 
+one_peak = dict(P=[(-1, 1), (-1, 1), (0.5, 2), (1, 4)], x=(-2, 2))
+two_peaks = dict(P=[(-1, 1), (-1, 0), (0.5, 2), (1, 4), (0, 1), (0.5, 2), (-4, -1)], x=(-2, 2))
+one_or_two = draw(6, **one_peak) + draw(6, **two_peaks)  # peaks of a centre, a width and a height or area
+
+
 class Row:
     def __init__(self, name, law, form, points, query=None, probe="none", idle="zero", derivatives=None,
                  derivative_law=None, derivative_value=None, stated=None, unwritten=(), slack=1):
+        assert form in ("both", "one", "refuse", "ignore", "own"), (name, form)
         self.name, self.law, self.form, self.points = name, law, form, points
         self.derivative_law = derivative_law
         self.derivative_value = derivative_value or derivative_law
-        self.derivatives = form in "DE" if derivatives is None else derivatives
+        self.derivatives = form in ("both", "one") if derivatives is None else derivatives
         self.query = int(self.derivatives) if query is None else query
         self.probe, self.idle = probe, idle
         self.stated, self.unwritten, self.slack = stated or {}, set(unwritten), slack
@@ -70,12 +84,12 @@ class Row:
 def row(name, **facts):
     """States a row.
 
-    form         D, E, V or W, or "own" for a model with request rules of its own (its cases then pin them)
+    form         what becomes of requests: "both", "one", "refuse", "ignore" or "own", as above
     points       [(parameters, x or [x1, x2, ..]), ...]
     query        answer to FF_QUERY_DERIV, by default the truth
     probe        "none", "plain", or "own"
     idle         what a call without any request bit returns: "zero", "flags", "one", or "own"
-    derivatives  does the derivative path fill dyda? By default yes for D and E
+    derivatives  does the derivative path fill dyda? By default yes for "both" and "one"
     derivative_law  the law as the derivative path evaluates it, where its constants differ from the value path's
     derivative_value  the law by which the derivative path computes y, where that departs on purpose
     stated       {slot: formula} where a derivative slot departs from the true derivative on purpose
@@ -88,6 +102,33 @@ def row(name, **facts):
         return law
 
     return enter
+
+
+def drawn(name, *ranges, count=8, form="one", idle=None, extra=(), seed=0, **facts):
+    """States a row at `count` points drawn from each (P, x), and at the extra ones; without a request the laws of one
+    path return the flags."""
+    points = [point for P, x in ranges for point in draw(count, P, x, seed)]
+    idle = idle or ("flags" if form == "one" else "zero")
+    return row(name, form=form, idle=idle, points=points + list(extra), **facts)
+
+
+def own_draw(name, P, x, extra=()):
+    """States a row at ten points that no other row has, whatever its ranges, and at the extra ones."""
+    return drawn(name, (P, x), count=10, extra=extra, seed=name)
+
+
+# Two reference points of an expected-value form, in either order.
+references = [(0.5, 1.5), (1, 4), (4, 6), (5, 9)], (1.6, 3.9)
+swapped = [(4, 6), (5, 9), (0.5, 1.5), (1, 4)], (7, 12)
+
+
+def between(t1, y1, t3, y3, t):
+    """The straight line through (t1, y1) and (t3, y3), at t."""
+    return y1 + (y3 - y1) * (t - t1) / (t3 - t1)
+
+
+def power_place(x, first, second, b):
+    return (x ** b - first ** b) / (second ** b - first ** b)
 
 
 def number(v):
