@@ -9,7 +9,7 @@ Family distributions() {
         .title = "Distributions",
         .models = {
             {.name = "SchulzFlory",
-             .formula = "y = y0 + sum A (w/M)^(M/s) exp((M - w)/s),  w = 10^x, M = 10^m, s = 10^b",
+             .formula = "y = y0 + sum A (w/M)^(M/s) exp((M - w)/s),  w = 10^x,  M = 10^m,  s = 10^b",
              .parameters = {{"y0", "offset"}},
              .block = {{"m", "decimal logarithm of the mass at the top of the peak (as x)"},
                        {"b", "decimal logarithm of the scale s, in the unit of the mass"},
@@ -25,12 +25,12 @@ Family distributions() {
              .notes = "A density of area 1. Fails for b = 0; a negative b gives no density, so bound it from "
                       "below."},
             {.name = "Poisson",
-             .formula = "y = y0 + k^x/Gamma(x + 1) exp(-k)",
+             .formula = "y = y0 + k^x exp(-k)/abs(gamma(x + 1))",
              .parameters = {{"y0", "offset"}, {"k", "mean number of events"}},
              .notes = "The probability of x events; x need not be whole. Fails for x above 170 and x = -1, "
                       "-2, ..., and for k < 0 unless x is whole."},
             {.name = "Rayleigh",
-             .formula = "y = 1 - exp(-(x/s)^2/2)",
+             .formula = "y = 1 - exp(-x^2/(2 s^2))",
              .parameters = {{"s", "scale (as x), the standard deviation of each component"}},
              .notes = "The distribution function, from 0 to 1. Fails for x < 0 and s <= 0."},
             {.name = "Gumbel",
@@ -61,7 +61,7 @@ Family distributions() {
              .notes = "A density of area 1. Fails for b <= 0 and x <= x0: keep x0 below the smallest x "
                       "(--upper x0)."},
             {.name = "Goldman",
-             .formula = "y = (R T/F) ln((p co + x)/(p ci + k)),  R = 8.314, F = 96485",
+             .formula = "y = (R T/F) ln((p co + x)/(p ci + k)),  R = 8.314,  F = 96485",
              .parameters = {{"p", "permeability of the other ion relative to the leading one"},
                             {"co", "concentration of the other ion outside"},
                             {"ci", "concentration of the other ion inside"},

@@ -90,7 +90,7 @@ Family exponentials() {
              .notes = "Fails for a time <= 0 and where an exponential overflows. Another x0 only rescales the "
                       "amplitudes: hold it fixed in a fit, and start with times that differ by factors."},
             {.name = "Kinetic",
-             .formula = "y = y0 + sum A exp(-(x - x0)/t) for x >= x0, y0 before",
+             .formula = "y = y0 + sum A exp(-(x - x0)/t) for x >= x0, y0 otherwise",
              .parameters = {{"y0", "baseline, before the start and at the end"}, start},
              .block = {{"A", "amplitude, at x = x0"}, {"t", "decay time, unit of x"}},
              .block_name = "term",
@@ -172,7 +172,7 @@ Family exponentials() {
                       "amplitude of 0 excuses a time constant "
                       "of 0. Start a fit with times that differ."},
             {.name = "Pulse",
-             .formula = "y = y0 + A (1 - exp(-(x - x0)/t1))^p exp(-(x - x0)/t2) for x >= x0, y0 before",
+             .formula = "y = y0 + A (1 - exp(-(x - x0)/t1))^p exp(-(x - x0)/t2) for x >= x0, y0 otherwise",
              .parameters = {{"y0", "baseline"},
                             pulse_start,
                             {"A", "amplitude, larger than the height of the pulse"},
@@ -183,7 +183,7 @@ Family exponentials() {
                  "Fails for a time or power <= 0. There are no derivatives at x = x0: start a fit with x0 off "
                  "the data, or take numerical derivatives."},
             {.name = "Pulse1",
-             .formula = "y = A (1 - exp(-(x - x0)/t1))^p exp(-(x - x0)/t2) for x > x0, 0 before",
+             .formula = "y = A (1 - exp(-(x - x0)/t1))^p exp(-(x - x0)/t2) for x > x0, 0 otherwise",
              .parameters = {pulse_start,
                             {"A", "amplitude, larger than the height of the pulse"},
                             rise_time,

@@ -142,7 +142,7 @@ Family handbook_two_parameter() {
              .notes = "Pow2P2 through the point (x1, y1). Fails for x1 = -1 and where (x + 1)/(x1 + 1) is not "
                       "positive."},
             {.name = "Bradley",
-             .formula = "y = a ln(-b ln x)",
+             .formula = "y = a ln(-b ln(x))",
              .parameters = {{"a", "scale, in the unit of y"}, {"b", "rate, not 0"}},
              .notes =
                  "x has no unit, such as a relative pressure. Fails for x <= 0, and at and above x = 1; with a "

@@ -18,7 +18,7 @@ Family multi() {
              .notes = "The two columns share no parameter. Fails for x/t above 709; t = 0 gives no number."},
             {.name = "GaussianLorentz",
              .formula = "y1 = y0 + A1/(w1 sqrt(pi/2)) exp(-2 ((x - xc)/w1)^2);  "
-                        "y2 = y0 + (2 A2/pi) w2/(4 (x - xc)^2 + w2^2)",
+                        "y2 = y0 + 2 A2 w2/(pi (4 (x - xc)^2 + w2^2))",
              .parameters = {{"y0", "offset of both"},
                             {"xc", "centre of both"},
                             {"A1", "area of the Gaussian"},

@@ -9,7 +9,7 @@ Family powers() {
         .title = "Powers, hyperbolas and waves",
         .models = {
             {.name = "Power0",
-             .formula = "y = y0 + A |x - xc|^p",
+             .formula = "y = y0 + A abs(x - xc)^p",
              .parameters = {{"y0", "offset"},
                             {"xc", "centre"},
                             {"A", "amplitude, height above the offset at distance 1"},
@@ -17,13 +17,13 @@ Family powers() {
              .notes = "At x = xc the value is y0. The model leaves the derivatives by xc and p open there; a "
                       "fit takes them by differences."},
             {.name = "Power1",
-             .formula = "y = A |x - xc|^p",
+             .formula = "y = A abs(x - xc)^p",
              .parameters = {{"xc", "centre"}, {"A", "amplitude, value at distance 1"}, {"p", "exponent"}},
              .notes =
                  "At x = xc the value is 0. The model leaves the derivatives by xc and p open there; a fit "
                  "takes them by differences. A fit with p <= 0 needs numerical derivatives throughout."},
             {.name = "Power2",
-             .formula = "y = A |x - xc|^pl for x < xc, A |x - xc|^pu for x > xc, 0 at xc",
+             .formula = "y = A abs(x - xc)^pl for x < xc, A abs(x - xc)^pu for x > xc, 0 otherwise",
              .parameters = {{"xc", "centre"},
                             {"A", "amplitude, value at distance 1 on both sides"},
                             {"pl", "exponent below the centre"},

@@ -30,13 +30,13 @@ constexpr std::string_view widths_of_peaks =
 std::vector<Description> peak_surfaces() {
     return {
         {.name = "Gauss2D",
-         .formula = "y = y0 + sum A exp(-((x1 - xc)/wx)^2/2 - ((x2 - yc)/wy)^2/2)",
+         .formula = "y = y0 + sum A exp(-(x1 - xc)^2/(2 wx^2) - (x2 - yc)^2/(2 wy^2))",
          .parameters = {{"y0", "offset"}},
          .block = peak(standard_deviation),
          .notes = widths_of_peaks},
         {.name = "Gaussian2D",
-         .formula = "y = y0 + A exp(-(u/wx)^2/2 - (v/wy)^2/2),  "
-                    "u = (x1 - xc) cos(t) + (x2 - yc) sin(t), v = (x2 - yc) cos(t) - (x1 - xc) sin(t)",
+         .formula = "y = y0 + A exp(-u^2/(2 wx^2) - v^2/(2 wy^2)),  "
+                    "u = (x1 - xc) cos(t) + (x2 - yc) sin(t),  v = (x2 - yc) cos(t) - (x1 - xc) sin(t)",
          .parameters = joined({{"y0", "offset"}}, {{"A", "height of the peak"},
                                                    {"xc", "centre on x1"},
                                                    {"wx", "standard deviation along the turned first axis"},
@@ -53,15 +53,15 @@ std::vector<Description> peak_surfaces() {
          .notes = widths_of_peaks},
         {.name = "Voigt2D",
          .formula = "y = y0 + sum A ((1 - f) exp(-u^2/2 - v^2/2) + f/((1 + u^2) (1 + v^2))),  "
-                    "u = (x1 - xc)/wx, v = (x2 - yc)/wy",
+                    "u = (x1 - xc)/wx,  v = (x2 - yc)/wy",
          .parameters = {{"y0", "offset"}},
          .block = joined(peak("width along x1: standard deviation of the Gaussian part, half width at half "
                               "maximum of the other"),
                          {{"f", "fraction of the Lorentzian part, 0 to 1"}}),
          .notes = widths_of_peaks},
         {.name = "LogNormal2D",
-         .formula = "y = y0 + sum (Ax e1 + Ay e2 + Axy e1 e2),  "
-                    "e1 = exp(-(ln(x1/cx)/wx)^2/2), e2 = exp(-(ln(x2/cy)/wy)^2/2)",
+         .formula = "y = y0 + sum (Ax e1 + Ay e2 + Axy e1 e2),  e1 = exp(-ln(x1/cx)^2/(2 wx^2)),  "
+                    "e2 = exp(-ln(x2/cy)^2/(2 wy^2))",
          .parameters = {{"y0", "offset"}},
          .block = {{"Ax", "amplitude of the ridge across x1"},
                    {"cx", "top of that ridge on x1"},
@@ -84,7 +84,7 @@ std::vector<Description> peak_surfaces() {
          .notes = "An asymmetric peak along x1 on a parabola along x2. With several terms only the sums of b "
                   "and of c are determined."},
         {.name = "GaussLog",
-         .formula = "y = y0 + sum A exp(-((x1 - xc)/wx)^2/2 - (ln(x2/yc)/wy)^2/2)",
+         .formula = "y = y0 + sum A exp(-(x1 - xc)^2/(2 wx^2) - ln(x2/yc)^2/(2 wy^2))",
          .parameters = {{"y0", "offset"}},
          .block = {{"A", "height of the peak"},
                    {"xc", "centre on x1"},
@@ -126,7 +126,8 @@ std::vector<Description> basis_surfaces() {
                         {"d", "of x2^2"},
                         {"f", "of x1 x2"}}},
         {.name = "Polynomial2D",
-         .formula = "y = y0 + a1 x1 + a2 x1^2 + .. + a5 x1^5 + b1 x2 + b2 x2^2 + .. + b5 x2^5",
+         .formula = "y = y0 + a1 x1 + a2 x1^2 + a3 x1^3 + a4 x1^4 + a5 x1^5 + b1 x2 + b2 x2^2 + b3 x2^3 + b4 "
+                    "x2^4 + b5 x2^5",
          .parameters = {{"y0", "level at the origin"},
                         {"a1", "of x1"},
                         {"a2", "of x1^2"},
@@ -152,15 +153,15 @@ std::vector<Description> basis_surfaces() {
          .notes = "Fails for a scale Lx or Ly of 0. Start the scales near their values: a fit finds the "
                   "nearest of many minima."},
         {.name = "Chebyshev2D",
-         .formula = "y = y0 + a T1(x1) + b T2(x1) + c T1(x2) + d T2(x2) + f T1(x1) T1(x2),  "
-                    "T1(s) = s, T2(s) = 2 s^2 - 1",
+         .formula = "y = y0 + a x1 + b (2 x1^2 - 1) + c x2 + d (2 x2^2 - 1) + f x1 x2",
          .parameters = {{"y0", "offset"},
-                        {"a", "of T1(x1)"},
-                        {"b", "of T2(x1)"},
-                        {"c", "of T1(x2)"},
-                        {"d", "of T2(x2)"},
+                        {"a", "of T1(x1) = x1"},
+                        {"b", "of T2(x1) = 2 x1^2 - 1"},
+                        {"c", "of T1(x2) = x2"},
+                        {"d", "of T2(x2) = 2 x2^2 - 1"},
                         {"f", "of T1(x1) T1(x2)"}},
-         .notes = "Gives no number outside -1 <= x1, x2 <= 1: scale the data first."},
+         .notes = "A series of Chebyshev polynomials. Gives no number outside -1 <= x1, x2 <= 1: scale the "
+                  "data first."},
         {.name = "Cosine",
          .formula = "y = y0 + a cos(x1) + b cos(2 x1) + c cos(x2) + d cos(2 x2) + f cos(x1) cos(x2)",
          .parameters = {{"y0", "offset"},
@@ -206,7 +207,7 @@ std::vector<Description> basis_surfaces() {
 std::vector<Description> response_surfaces() {
     return {
         {.name = "GaussCum",
-         .formula = "y = y0 + sum A/4 (1 + erf((x1 - xc)/(sqrt(2) wx))) (1 + erf((x2 - yc)/(sqrt(2) wy)))",
+         .formula = "y = y0 + sum (A/4) (1 + erf((x1 - xc)/(sqrt(2) wx))) (1 + erf((x2 - yc)/(sqrt(2) wy)))",
          .parameters = {{"y0", "offset"}},
          .block = peak(standard_deviation, "height of the plateau"),
          .block_name = "term",
@@ -219,8 +220,8 @@ std::vector<Description> response_surfaces() {
          .notes = "A negative width turns the step round. More than 300 widths below a centre the step is back "
                   "on its plateau: keep the data within that."},
         {.name = "ExtremeCum",
-         .formula = "y = y0 + sum (Ax F1 + Ay F2 + Axy F1 F2),  "
-                    "F1 = exp(-exp((xc - x1)/wx)), F2 = exp(-exp((yc - x2)/wy))",
+         .formula = "y = y0 + sum (Ax F1 + Ay F2 + Axy F1 F2),  F1 = exp(-exp((xc - x1)/wx)),  "
+                    "F2 = exp(-exp((yc - x2)/wy))",
          .parameters = {{"y0", "offset"}},
          .block = {{"Ax", "height of the step along x1"},
                    {"xc", "location of that step"},
