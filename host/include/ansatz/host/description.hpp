@@ -25,7 +25,7 @@ struct ParameterText {
 /// One model. Parameters are listed in slot order: first `parameters`, then `block` once per peak or term.
 struct Description {
     std::string_view name;    ///< as in the catalogue
-    std::string_view formula; ///< plain text; "sum" stands for the sum over the peaks or terms
+    std::string_view formula; ///< written as docs/formulas.md says
     std::vector<ParameterText> parameters = {};
     std::vector<ParameterText> block = {}; ///< the repeated parameters, empty for a model of fixed size
     std::string_view block_name = "peak";  ///< what one block is
