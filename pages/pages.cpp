@@ -22,6 +22,40 @@ bool same_name(std::string_view a, std::string_view b) {
     return std::ranges::equal(a, b, same_letter);
 }
 
+std::string_view trait_name(Trait trait) {
+    switch (trait) {
+    case Trait::offset: return "offset";
+    case Trait::level: return "level";
+    case Trait::ceiling: return "ceiling";
+    case Trait::amplitude: return "amplitude";
+    case Trait::area: return "area";
+    case Trait::slope: return "slope";
+    case Trait::coefficient: return "coefficient";
+    case Trait::position: return "position";
+    case Trait::log_position: return "log_position";
+    case Trait::threshold: return "threshold";
+    case Trait::width: return "width";
+    case Trait::log_width: return "log_width";
+    case Trait::time: return "time";
+    case Trait::rate: return "rate";
+    case Trait::half_point: return "half_point";
+    case Trait::period: return "period";
+    case Trait::base: return "base";
+    case Trait::exponent: return "exponent";
+    case Trait::shape: return "shape";
+    case Trait::fraction: return "fraction";
+    case Trait::phase: return "phase";
+    case Trait::angle: return "angle";
+    case Trait::correlation: return "correlation";
+    case Trait::reference: return "reference";
+    case Trait::response: return "response";
+    case Trait::inverse_level: return "inverse_level";
+    case Trait::log_level: return "log_level";
+    case Trait::constant: return "constant";
+    }
+    return {};
+}
+
 std::span<const Page> pages() {
     static const Page all[] = {
 #define ENTRY(name, nIndep, nDep, nParams, routine) ansatz_page_##name,

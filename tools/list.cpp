@@ -53,9 +53,10 @@ int list(const ListOptions& options) {
                          {"formula", Align::left}});
         for (const host::Model& model : group.mapped()) {
             json.push_back(describe_json(model));
-            table.add({model.name(), fmt::format("{}", model.inputs()),
-                       model.implicit() ? "0" : fmt::format("{}", model.outputs()), parameter_count(model),
-                       std::string(model.reserved() ? "reserved name, computes nothing" : model.page()->formula)});
+            table.add(
+                {model.name(), fmt::format("{}", model.inputs()),
+                 model.implicit() ? "0" : fmt::format("{}", model.outputs()), parameter_count(model),
+                 std::string(model.reserved() ? "reserved name, computes nothing" : model.page()->formula)});
         }
         if (options.json) continue;
         fmt::print("{}{}\n{}", first ? "" : "\n", family_title(family), table.text());

@@ -102,8 +102,7 @@ private:
             layers.push_back(fmt::format(
                 "${} using 1:{} with lines linewidth 1.3 dashtype 2 linecolor rgb '{}' title {}", name("curve"),
                 3 + k, peak_colours[static_cast<std::size_t>(k) % std::size(peak_colours)],
-                quoted(fmt::format("{} {}", p_.model.page()->block_name,
-                                   k + p_.model.page()->first_block))));
+                quoted(fmt::format("{} {}", p_.model.page()->block_name, k + p_.model.page()->first_block))));
         }
         layers.push_back(fmt::format("${} using 1:2 with lines linewidth 2.2 linecolor rgb '{}' title {}",
                                      name("curve"), curve_colour, quoted(p_.model.name())));

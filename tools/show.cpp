@@ -40,7 +40,8 @@ int show(const ShowOptions& options) {
     TextTable table({{"", Align::left}, {"symbol", Align::left}, {"meaning", Align::left}});
     const auto slots = model.slots(n);
     for (const host::Slot& slot : slots) {
-        table.add({slot.number, slot.symbol, slot.meaning + (slot.reference() ? " (reference position, held fixed)" : "")});
+        table.add({slot.number, slot.symbol,
+                   slot.meaning + (slot.reference() ? " (reference position, held fixed)" : "")});
     }
     fmt::print("\nParameters ({})\n{}", parameter_count(model), table.text());
     if (model.replicated()) {

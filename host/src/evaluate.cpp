@@ -23,8 +23,9 @@ bool usable(double value) {
 
 Evaluator::Evaluator(const Model& model, const Eigen::VectorXd& parameters, Derivatives source)
     : model_(model), n_(static_cast<int>(parameters.size())),
-      analytic_(source == Derivatives::best && model.analytic()), P_(1 + size(model.slots_used(n_))), y_(P_.size() + size(model.outputs())),
-      dyda_(P_.size()), result_(y_.size()), jacobian_(model.outputs(), n_) {
+      analytic_(source == Derivatives::best && model.analytic()), P_(1 + size(model.slots_used(n_))),
+      y_(P_.size() + size(model.outputs())), dyda_(P_.size()), result_(y_.size()),
+      jacobian_(model.outputs(), n_) {
     model.require_size(n_);
     set_parameters(parameters);
 }

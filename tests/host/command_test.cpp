@@ -199,7 +199,7 @@ TEST_F(Command, EvaluatesPoints) {
 TEST_F(Command, ListsTheCatalogue) {
     EXPECT_EQ(nlohmann::json::parse(run("list --json").out).size(), 238u);
     EXPECT_EQ(nlohmann::json::parse(run("list 'LORENT?' --json").out)[0]["name"], "Lorentz");
-    EXPECT_EQ(nlohmann::json::parse(run("show lorentz --json").out)["block"]["parameters"][1]["symbol"], "w");
+    EXPECT_EQ(nlohmann::json::parse(run("show lorentz --json").out)["block"][1]["symbol"], "w");
 }
 
 TEST_F(Command, DrawsWithGnuplotOrSaysThatItIsMissing) {

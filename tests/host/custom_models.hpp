@@ -7,7 +7,8 @@
 
 namespace custom {
 
-using ansatz::host::Description;
+using ansatz::Page;
+using ansatz::Trait;
 using ansatz::host::Model;
 
 // The arguments that a model reads, in protocol order.
@@ -70,10 +71,10 @@ CUSTOM_ROUTINE(circle_routine) {
     return 0;
 }
 inline Model circle() {
-    static const Description text{.name = "circle",
-                                  .formula = "((x1 - xc)/r)^2 + ((x2 - yc)/r)^2 = 1",
-                                  .parameters = {{"xc", ""}, {"yc", ""}, {"r", "radius"}},
-                                  .implicit = true};
+    static const Page text{
+        .formula = "((x1 - xc)/r)^2 + ((x2 - yc)/r)^2 = 1",
+        .parameters = {{"xc", "", Trait::position}, {"yc", "", Trait::position}, {"r", "radius", Trait::width}},
+        .implicit = true};
     return Model::custom("circle", circle_routine, 2, 1, 3, &text);
 }
 
@@ -100,11 +101,10 @@ CUSTOM_ROUTINE(expected_routine) {
     return 0;
 }
 inline Model expected() {
-    static const Description text{.name = "expected",
-                                  .formula = "y = E + b (x - X)",
-                                  .parameters = {{"X", "reference x", ansatz::host::Role::reference},
-                                                 {"E", "response at X"},
-                                                 {"b", "slope"}}};
+    static const Page text{.formula = "y = E + b (x - X)",
+                           .parameters = {{"X", "reference x", Trait::reference},
+                                          {"E", "response at X", Trait::response},
+                                          {"b", "slope", Trait::slope}}};
     return Model::custom("expected", expected_routine, 1, 1, 2, &text);
 }
 
@@ -121,13 +121,13 @@ CUSTOM_ROUTINE(series_routine) {
     return 0;
 }
 inline Model series() {
-    static const Description text{.name = "series",
-                                  .formula = "y = sum a x^k",
-                                  .block = {{"a", "coefficient"}},
-                                  .block_name = "term",
-                                  .first_block = 0,
-                                  .most_blocks = 3,
-                                  .components = false};
+    static const Page text{.formula = "y = sum a x^k",
+                           .block = {{"a", "coefficient", Trait::coefficient}},
+                           .block_name = "term",
+                           .first_block = 0,
+                           .most_blocks = 3,
+                           .components = false,
+                           .layout = {.block = 1, .least = 6}};
     return Model::custom("series", series_routine, 1, 1, 2, &text);
 }
 

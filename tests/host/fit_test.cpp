@@ -304,7 +304,7 @@ TEST(Columns, GiveTheFitThatSingleCallsGive) {
     for (const auto& [name, guess] : {std::pair{"Gauss", std::vector{0.0, 450.0, 10.0, 4.0}},
                                       std::pair{"GaussAmp", std::vector{0.0, 452.0, 5.0, 0.4}}}) {
         const Model model = Model::find(name);
-        const Model custom = Model::custom(name, model.function(), 1, 1, 4, model.description());
+        const Model custom = Model::custom(name, model.function(), 1, 1, 4, model.page());
         ASSERT_TRUE(ColumnEvaluator::serves(model, 4, Derivatives::best));
         ASSERT_FALSE(ColumnEvaluator::serves(custom, 4, Derivatives::best));
         const Fit together = fit(model, eckerle4(), starts(model, guess));

@@ -52,22 +52,16 @@ TEST(Names, UnknownOnesComeWithTheNearest) {
     }
 }
 
-TEST(Descriptions, BelongToTheCatalogueAndAgreeWithItsDimensions) {
-    std::vector<std::string_view> seen;
-    for (const Family& family : families()) {
-        for (const Description& text : family.models) {
-            const auto model = Model::lookup(text.name);
-            ASSERT_TRUE(model) << text.name;
-            EXPECT_EQ(model->name(), text.name);
-            EXPECT_EQ(std::ranges::count(seen, text.name), 0) << text.name << " is described twice";
-            seen.push_back(text.name);
-            if (text.reserved) continue;
-            std::uint16_t parameters = 0;
-            Get_Func(model->name().c_str(), nullptr, nullptr, &parameters, nullptr);
-            EXPECT_GE(model->default_size(), parameters) << text.name;
-            EXPECT_NO_THROW(model->require_size(model->default_size())) << text.name;
-            EXPECT_FALSE(text.formula.empty()) << text.name;
-        }
+TEST(Pages, AgreeWithTheCatalogue) {
+    for (const Page& page : pages()) {
+        const Model model = Model::find(page.name);
+        EXPECT_EQ(model.name(), page.name);
+        EXPECT_EQ(model.page(), &page);
+        if (page.reserved) continue;
+        std::uint16_t parameters = 0;
+        Get_Func(model.name().c_str(), nullptr, nullptr, &parameters, nullptr);
+        EXPECT_GE(model.default_size(), parameters) << page.name;
+        EXPECT_NO_THROW(model.require_size(model.default_size())) << page.name;
     }
 }
 

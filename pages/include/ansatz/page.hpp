@@ -49,6 +49,9 @@ enum class Trait : unsigned char {
     constant,      ///< none of these, with a dimension of its own
 };
 
+/// As it is written above: "log_position".
+std::string_view trait_name(Trait trait);
+
 /// Powers of x (the first or only one), of y, and of x2. An x3 counts as x.
 struct Dimension {
     double x = 0, y = 0, x2 = 0;

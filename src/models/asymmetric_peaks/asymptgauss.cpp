@@ -49,7 +49,7 @@ struct Peak {
 ANSATZ_MODEL(asymptgauss, blocks::BothPaths<Peak>)
 
 ANSATZ_PAGE(asymptgauss, .title = "",
-            .formula = "y = y0 + sum A exp(-4 ln 2 ((x - xc)/W)^2), W = 2 w/(1 + exp(-a (x - xc)))",
+            .formula = "y = y0 + sum A exp(-4 ln(2) ((x - xc)/W)^2),  W = 2 w/(1 + exp(-a (x - xc)))",
             .parameters = {{"y0", "offset", Trait::offset}},
             .block = {{"xc", "centre, where y0 + A is reached", Trait::position},
                       {"A", "height", Trait::amplitude},

@@ -53,8 +53,8 @@ ANSATZ_MODEL(Beta, blocks::BothPaths<Peak>)
 
 ANSATZ_PAGE(
     Beta, .title = "",
-    .formula =
-        "y = y0 + sum A (1 + r/(p - 1) z)^(p - 1) (1 - r/(q - 1) z)^(q - 1), z = (x - xc)/w, r = p + q - 2",
+    .formula = "y = y0 + sum A B,  B = (1 + r z/(p - 1))^(p - 1) (1 - r z/(q - 1))^(q - 1) for (1 - p)/r < z < "
+               "(q - 1)/r, 0 otherwise,  z = (x - xc)/w,  r = p + q - 2",
     .parameters = {{"y0", "offset", Trait::offset}},
     .block = {{"xc", "centre, where the maximum is", Trait::position},
               {"A", "height", Trait::amplitude},

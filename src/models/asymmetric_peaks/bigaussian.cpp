@@ -46,7 +46,7 @@ struct Peak {
 ANSATZ_MODEL(BiGaussian, blocks::BothPaths<Peak, Answers{.query = 0, .probe = true}>)
 
 ANSATZ_PAGE(BiGaussian, .title = "",
-            .formula = "y = y0 + sum H exp(-((x - xc)/w)^2/2), w = w1 for x < xc, else w2",
+            .formula = "y = y0 + sum H exp(-(x - xc)^2/(2 w^2)),  w = w1 for x < xc, w2 otherwise",
             .parameters = {{"y0", "offset", Trait::offset}},
             .block = {{"xc", "centre, where the maximum is", Trait::position},
                       {"H", "height", Trait::amplitude},

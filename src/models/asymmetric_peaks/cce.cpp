@@ -38,8 +38,8 @@ ANSATZ_MODEL(CCE, blocks::ValueOrRefusal<Peak>)
 
 ANSATZ_PAGE(
     CCE, .title = "",
-    .formula = "y = y0 + sum A (exp(-(x - xc1)^2/(2 w)) + B (1 - (1 - tanh(k2 (x - xc2)))/2) exp(-k3 (|x - "
-               "xc3| + (x - xc3))/2))",
+    .formula = "y = y0 + sum A (exp(-(x - xc1)^2/(2 w)) + (B/2) (1 + tanh(k2 (x - xc2))) exp(-k3 (x - xc3 + "
+               "abs(x - xc3))/2))",
     .parameters = {{"y0", "offset", Trait::offset}},
     .block = {{"xc1", "centre of the peak", Trait::position},
               {"A", "height of the peak without its tail", Trait::amplitude},

@@ -41,8 +41,8 @@ template <bool edgeworth> struct Peak {
 ANSATZ_MODEL(GCAS, blocks::ValueOrRefusal<Peak<false>>)
 
 ANSATZ_PAGE(GCAS, .title = "",
-            .formula = "y = y0 + sum A/(w sqrt(2 pi)) exp(-z^2/2) (1 + a3/6 (z^3 - 3 z) + a4/24 (z^4 - 6 z^2 + "
-                       "3)), z = (x - xc)/w",
+            .formula = "y = y0 + sum A/(w sqrt(2 pi)) exp(-z^2/2) (1 + a3 (z^3 - 3 z)/6 + a4 (z^4 - 6 z^2 + "
+                       "3)/24),  z = (x - xc)/w",
             .parameters = {{"y0", "offset", Trait::offset}},
             .block = {{"A", "area", Trait::area},
                       {"xc", "centre, the mean", Trait::position},
@@ -55,8 +55,8 @@ ANSATZ_PAGE(GCAS, .title = "",
 ANSATZ_MODEL(ECS, blocks::ValueOrRefusal<Peak<true>>)
 
 ANSATZ_PAGE(ECS, .title = "",
-            .formula = "y = y0 + sum A/(w sqrt(2 pi)) exp(-z^2/2) (1 + a3/6 (z^3 - 3 z) + a4/24 (z^4 - 6 z^2 + "
-                       "3) + a3^2/72 (z^6 - 15 z^4 + 45 z^2 - 15)), z = (x - xc)/w",
+            .formula = "y = y0 + sum A/(w sqrt(2 pi)) exp(-z^2/2) (1 + a3 (z^3 - 3 z)/6 + a4 (z^4 - 6 z^2 + "
+                       "3)/24 + a3^2 (z^6 - 15 z^4 + 45 z^2 - 15)/72),  z = (x - xc)/w",
             .parameters = {{"y0", "offset", Trait::offset}},
             .block = {{"A", "area", Trait::area},
                       {"xc", "centre, the mean", Trait::position},

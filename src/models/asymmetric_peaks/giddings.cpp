@@ -51,13 +51,14 @@ struct Peak {
 
 ANSATZ_MODEL(Giddings, blocks::BothPaths<Peak>)
 
-ANSATZ_PAGE(Giddings, .title = "",
-            .formula = "y = y0 + sum A/w sqrt(xc/x) I1(2 sqrt(xc x)/w) exp(-(x + xc)/w), 0 for x <= 0",
-            .parameters = {{"y0", "offset", Trait::offset}},
-            .block = {{"xc", "centre, close to the mean", Trait::position},
-                      {"w", "width, in the unit of x; the standard deviation is sqrt(2 w xc)", Trait::width},
-                      {"A", "area", Trait::area}},
-            .notes = "The chromatographic peak of a random walk; I1 is a modified Bessel function. Fails for "
-                     "xc <= 0 and w <= 0.")
+ANSATZ_PAGE(
+    Giddings, .title = "",
+    .formula = "y = y0 + sum (A/w) sqrt(xc/x) I1(2 sqrt(xc x)/w) exp(-(x + xc)/w) for x > 0, y0 otherwise",
+    .parameters = {{"y0", "offset", Trait::offset}},
+    .block = {{"xc", "centre, close to the mean", Trait::position},
+              {"w", "width, in the unit of x; the standard deviation is sqrt(2 w xc)", Trait::width},
+              {"A", "area", Trait::area}},
+    .notes = "The chromatographic peak of a random walk; I1 is a modified Bessel function. Fails for xc <= 0 "
+             "and w <= 0.")
 
 } // namespace ansatz::giddings

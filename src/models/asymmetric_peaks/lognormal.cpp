@@ -50,7 +50,7 @@ struct Peak {
 ANSATZ_MODEL(LogNormal, blocks::BothPaths<Peak, Answers{.probe = true}>)
 
 ANSATZ_PAGE(LogNormal, .title = "",
-            .formula = "y = y0 + sum A/(sqrt(2 pi) w x) exp(-ln(x/xc)^2/(2 w^2)), 0 for x <= 0",
+            .formula = "y = y0 + sum A/(sqrt(2 pi) w x) exp(-ln(x/xc)^2/(2 w^2)) for x > 0, y0 otherwise",
             .parameters = {{"y0", "offset", Trait::offset}},
             .block = {{"xc", "median; the maximum is at xc exp(-w^2)", Trait::constant},
                       {"w", "width, the standard deviation of ln x", Trait::width},

@@ -32,17 +32,18 @@ struct Form {
 
 ANSATZ_MODEL(PearsonIV, Form)
 
-ANSATZ_PAGE(
-    PearsonIV, .title = "",
-    .formula = "y = y0 + A k/w (1 + z^2)^(-m) exp(-nu atan z), z = (x - xc)/w, k such that A is the area",
-    .parameters = {{"y0", "offset", Trait::offset},
-                   {"xc", "location; the maximum is at xc - w nu/(2 m)", Trait::constant},
-                   {"A", "area", Trait::area},
-                   {"w", "width; for nu = 0 the full width at half maximum is 2 w sqrt(2^(1/m) - 1)",
-                    Trait::width},
-                   {"nu", "skew; positive: the long tail is on the left", Trait::constant},
-                   {"m", "tail exponent, above 1/2; 1 with nu = 0 is a Lorentzian", Trait::constant}},
-    .notes = "No value for w <= 0 and m <= 0.5: bound both from below. xc, w, nu and m are strongly correlated "
-             "where the data show little of the tails.")
+ANSATZ_PAGE(PearsonIV, .title = "",
+            .formula = "y = y0 + (A k/w) (1 + z^2)^(-m) exp(-nu atan(z)),  z = (x - xc)/w,  k = 4^(m - 1) "
+                       "absgamma(m, nu/2)^2/(pi gamma(2 m - 1))",
+            .parameters = {{"y0", "offset", Trait::offset},
+                           {"xc", "location; the maximum is at xc - w nu/(2 m)", Trait::constant},
+                           {"A", "area", Trait::area},
+                           {"w", "width; for nu = 0 the full width at half maximum is 2 w sqrt(2^(1/m) - 1)",
+                            Trait::width},
+                           {"nu", "skew; positive: the long tail is on the left", Trait::constant},
+                           {"m", "tail exponent, above 1/2; 1 with nu = 0 is a Lorentzian", Trait::constant}},
+            .notes = "absgamma(a, b) is the modulus of the gamma function at a + i b; k makes A the area. No "
+                     "value for w <= 0 and m <= 0.5: bound both from below. xc, w, nu and m are strongly "
+                     "correlated where the data show little of the tails.")
 
 } // namespace ansatz::pearson_iv_model

@@ -35,8 +35,8 @@ struct Peak {
 ANSATZ_MODEL(Weibull3, blocks::ValueOrRefusal<Peak>)
 
 ANSATZ_PAGE(Weibull3, .title = "",
-            .formula = "y = y0 + sum A s0^(1 - w2) S^(w2 - 1) exp(s0^w2 - S^w2), S = (x - xc)/w1 + s0, s0 = "
-                       "((w2 - 1)/w2)^(1/w2)",
+            .formula = "y = y0 + sum A f,  f = (S/s0)^(w2 - 1) exp(s0^w2 - S^w2) for S > 0, 0 otherwise,  S = "
+                       "(x - xc)/w1 + s0,  s0 = (1 - 1/w2)^(1/w2)",
             .parameters = {{"y0", "offset", Trait::offset}},
             .block = {{"xc", "centre, where the maximum is", Trait::position},
                       {"A", "height", Trait::amplitude},

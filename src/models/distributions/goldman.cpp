@@ -57,7 +57,7 @@ Status derivatives(const Point& at) {
 
 ANSATZ_MODEL(Goldman, OnePath<value, derivatives, distribution::values>)
 
-ANSATZ_PAGE(Goldman, .title = "", .formula = "y = (R T/F) ln((p co + x)/(p ci + k)),  R = 8.314, F = 96485",
+ANSATZ_PAGE(Goldman, .title = "", .formula = "y = (R T/F) ln((p co + x)/(p ci + k)),  R = 8.314,  F = 96485",
             .parameters = {{"p", "permeability of the other ion relative to the leading one", Trait::constant},
                            {"co", "concentration of the other ion outside", Trait::constant},
                            {"ci", "concentration of the other ion inside", Trait::constant},

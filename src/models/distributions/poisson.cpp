@@ -33,7 +33,7 @@ Status value(const Point& at) {
 
 ANSATZ_MODEL(Poisson, ValueOrRefusal<value, distribution::values>)
 
-ANSATZ_PAGE(Poisson, .title = "", .formula = "y = y0 + k^x/Gamma(x + 1) exp(-k)",
+ANSATZ_PAGE(Poisson, .title = "", .formula = "y = y0 + k^x exp(-k)/abs(gamma(x + 1))",
             .parameters = {{"y0", "offset", Trait::offset}, {"k", "mean number of events", Trait::constant}},
             .notes = "The probability of x events; x need not be whole. Fails for x above 170 and x = -1, -2, "
                      "..., and for k < 0 unless x is whole.")

@@ -34,7 +34,7 @@ Status derivatives(const Point& at) {
 
 ANSATZ_MODEL(Rayleigh, OnePath<value, derivatives, distribution::with_derivatives>)
 
-ANSATZ_PAGE(Rayleigh, .title = "", .formula = "y = 1 - exp(-(x/s)^2/2)",
+ANSATZ_PAGE(Rayleigh, .title = "", .formula = "y = 1 - exp(-x^2/(2 s^2))",
             .parameters = {{"s", "scale (as x), the standard deviation of each component", Trait::constant}},
             .notes = "The distribution function, from 0 to 1. Fails for x < 0 and s <= 0.")
 

@@ -83,7 +83,7 @@ ANSATZ_MODEL(SchulzFlory, BothPaths<value, derivatives>)
 
 ANSATZ_PAGE(
     SchulzFlory, .title = "",
-    .formula = "y = y0 + sum A (w/M)^(M/s) exp((M - w)/s),  w = 10^x, M = 10^m, s = 10^b",
+    .formula = "y = y0 + sum A (w/M)^(M/s) exp((M - w)/s),  w = 10^x,  M = 10^m,  s = 10^b",
     .parameters = {{"y0", "offset", Trait::offset}},
     .block = {{"m", "decimal logarithm of the mass at the top of the peak (as x)", Trait::constant},
               {"b", "decimal logarithm of the scale s, in the unit of the mass", Trait::constant},

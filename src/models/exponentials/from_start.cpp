@@ -159,7 +159,7 @@ ANSATZ_PAGE(ExpDecay3, .title = "",
 
 ANSATZ_MODEL(Kinetic, ValueOrNothing<kinetic_value>)
 
-ANSATZ_PAGE(Kinetic, .title = "", .formula = "y = y0 + sum A exp(-(x - x0)/t) for x >= x0, y0 before",
+ANSATZ_PAGE(Kinetic, .title = "", .formula = "y = y0 + sum A exp(-(x - x0)/t) for x >= x0, y0 otherwise",
             .parameters = {{"y0", "baseline, before the start and at the end", Trait::base},
                            {"x0", "start time", Trait::constant}},
             .block = {{"A", "amplitude, at x = x0", Trait::amplitude},

@@ -106,7 +106,7 @@ Status pulse1_derivatives(const Point& at) {
 ANSATZ_MODEL(Pulse, BothPaths<pulse_value, pulse_derivatives, Answers{.probe = true}>)
 
 ANSATZ_PAGE(Pulse, .title = "",
-            .formula = "y = y0 + A (1 - exp(-(x - x0)/t1))^p exp(-(x - x0)/t2) for x >= x0, y0 before",
+            .formula = "y = y0 + A (1 - exp(-(x - x0)/t1))^p exp(-(x - x0)/t2) for x >= x0, y0 otherwise",
             .parameters = {{"y0", "baseline", Trait::base},
                            {"x0", "start of the pulse", Trait::constant},
                            {"A", "amplitude, larger than the height of the pulse", Trait::amplitude},
@@ -119,7 +119,7 @@ ANSATZ_PAGE(Pulse, .title = "",
 ANSATZ_MODEL(Pulse1, BothPaths<pulse1_value, pulse1_derivatives>)
 
 ANSATZ_PAGE(
-    Pulse1, .title = "", .formula = "y = A (1 - exp(-(x - x0)/t1))^p exp(-(x - x0)/t2) for x > x0, 0 before",
+    Pulse1, .title = "", .formula = "y = A (1 - exp(-(x - x0)/t1))^p exp(-(x - x0)/t2) for x > x0, 0 otherwise",
     .parameters = {{"x0", "start of the pulse", Trait::constant},
                    {"A", "amplitude, larger than the height of the pulse", Trait::amplitude},
                    {"t1", "rise time, unit of x", Trait::constant},

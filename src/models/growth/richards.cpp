@@ -179,7 +179,7 @@ ANSATZ_PAGE(Richards, .title = "", .formula = "y = a/(1 + exp(-(k x + b)/m))^m",
 ANSATZ_MODEL(SRichards1, BothPaths<srichards1::value, srichards1::derivatives>)
 
 ANSATZ_PAGE(SRichards1, .title = "",
-            .formula = "y = (a^(1 - d) - s exp(-(x - xc) k))^(1/(1 - d)), s = 1 for d < 1, -1 for d > 1",
+            .formula = "y = (a^(1 - d) - s exp(-(x - xc) k))^(1/(1 - d)),  s = 1 for d < 1, -1 for d > 1",
             .parameters = {{"a", "ceiling, above 0", Trait::ceiling},
                            {"xc", "location: the exponential is 1 there", Trait::constant},
                            {"d", "shape, other than 1; 2 makes it the logistic curve", Trait::shape},

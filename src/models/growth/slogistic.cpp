@@ -161,7 +161,7 @@ ANSATZ_PAGE(SLogistic1, .title = "", .formula = "y = a/(1 + exp(-(x - xc) k))",
 
 ANSATZ_MODEL(SLogistic2, OnePath<slogistic2::value, slogistic2::derivatives>)
 
-ANSATZ_PAGE(SLogistic2, .title = "", .formula = "y = a/(1 + (a - y0)/y0 exp(-4 v x/a))",
+ANSATZ_PAGE(SLogistic2, .title = "", .formula = "y = a/(1 + (a/y0 - 1) exp(-4 v x/a))",
             .parameters = {{"y0", "value at x = 0", Trait::constant},
                            {"a", "ceiling, above 0 and above y0", Trait::ceiling},
                            {"v", "greatest growth rate: the slope at y = a/2, above 0", Trait::constant}},

@@ -38,7 +38,7 @@ Status derivatives(const Point& at) {
 
 ANSATZ_MODEL(Bradley, HandbookLaw<value, derivatives>)
 
-ANSATZ_PAGE(Bradley, .title = "", .formula = "y = a ln(-b ln x)",
+ANSATZ_PAGE(Bradley, .title = "", .formula = "y = a ln(-b ln(x))",
             .parameters = {{"a", "scale, in the unit of y", Trait::constant},
                            {"b", "rate, not 0", Trait::rate}},
             .notes = "x has no unit, such as a relative pressure. Fails for x <= 0, and at and above x = 1; "

@@ -65,7 +65,7 @@ Status derivatives(const Point& at) {
 
 ANSATZ_MODEL(GaussAmp, OnePath<value, derivatives, Answers{.probe = true}>)
 
-ANSATZ_PAGE(GaussAmp, .title = "", .formula = "y = y0 + sum A exp(-((x - xc)/w)^2/2)",
+ANSATZ_PAGE(GaussAmp, .title = "", .formula = "y = y0 + sum A exp(-(x - xc)^2/(2 w^2))",
             .parameters = {{"y0", "offset", Trait::offset}},
             .block = {{"xc", "centre", Trait::position},
                       {"w", "width, the standard deviation", Trait::width},

@@ -60,7 +60,7 @@ struct Form {
 
 ANSATZ_MODEL(Gaussian, Form)
 
-ANSATZ_PAGE(Gaussian, .title = "", .formula = "y = y0 + A/(w sqrt(pi/(4 ln 2))) exp(-4 ln 2 ((x - xc)/w)^2)",
+ANSATZ_PAGE(Gaussian, .title = "", .formula = "y = y0 + A/(w sqrt(pi/(4 ln(2)))) exp(-4 ln(2) ((x - xc)/w)^2)",
             .parameters = {{"y0", "offset", Trait::offset},
                            {"xc", "centre", Trait::position},
                            {"A", "area", Trait::area},

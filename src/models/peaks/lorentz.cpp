@@ -85,7 +85,7 @@ struct Form {
 
 ANSATZ_MODEL(Lorentz, Form)
 
-ANSATZ_PAGE(Lorentz, .title = "", .formula = "y = y0 + sum (2 A/pi) w/(4 (x - xc)^2 + w^2)",
+ANSATZ_PAGE(Lorentz, .title = "", .formula = "y = y0 + sum 2 A w/(pi (4 (x - xc)^2 + w^2))",
             .parameters = {{"y0", "offset", Trait::offset}},
             .block = {{"xc", "centre", Trait::position},
                       {"w", "width, full at half maximum", Trait::width},

@@ -90,8 +90,8 @@ struct Form {
 ANSATZ_MODEL(PearsonVII, Form)
 
 ANSATZ_PAGE(PearsonVII, .title = "",
-            .formula = "y = y0 + A 2 G(m) sqrt(2^(1/m) - 1)/(sqrt(pi) G(m - 1/2) w) (1 + 4 (2^(1/m) - 1) ((x - "
-                       "xc)/w)^2)^(-m), G the gamma function",
+            .formula = "y = y0 + A N (1 + 4 (2^(1/m) - 1) ((x - xc)/w)^2)^(-m),  N = 2 gamma(m) sqrt(2^(1/m) - "
+                       "1)/(sqrt(pi) gamma(m - 1/2) w)",
             .parameters = {{"y0", "offset", Trait::offset},
                            {"xc", "centre", Trait::position},
                            {"A", "area", Trait::area},

@@ -140,23 +140,23 @@ constexpr Answers answers{.query = 0, .probe = true};
 
 ANSATZ_MODEL(Voigt5, ValueOrRefusal<convolution, answers>)
 
-ANSATZ_PAGE(Voigt5, .title = "",
-            .formula = "y = y0 + sum A V(x - xc), V = Gaussian(wG) convolved with Lorentzian(wL), of area 1",
+ANSATZ_PAGE(Voigt5, .title = "", .formula = "y = y0 + sum A voigt(x - xc, wG, wL)",
             .parameters = {{"y0", "offset", Trait::offset}},
             .block = {{"xc", "centre", Trait::position},
                       {"A", "area", Trait::area},
                       {"wG", "full width at half maximum of the Gaussian part", Trait::width},
                       {"wL", "full width at half maximum of the Lorentzian part", Trait::width}},
-            .notes = "Good to 3e-6 of the height. Fails for wG = 0 and wL = 0, so a pure Gaussian or "
-                     "Lorentzian is out of reach: bound both from below. Meant for one peak: each further one "
-                     "has the shape of the peak before it added, so that the areas of several peaks are not "
-                     "their own. Take PsdVoigt1 or PsdVoigt2 for those.")
+            .notes = "voigt(d, wG, wL) is a Gaussian and a Lorentzian of these widths, convolved, of area 1 "
+                     "around d = 0. Good to 3e-6 of the height. Fails for wG = 0 and wL = 0, so a pure "
+                     "Gaussian or Lorentzian is out of reach: bound both from below. Meant for one peak: each "
+                     "further one has the shape of the peak before it added, so that the areas of several "
+                     "peaks are not their own. Take PsdVoigt1 or PsdVoigt2 for those.")
 
 ANSATZ_MODEL(PsdVoigt1, ValueOrRefusal<one_width, answers>)
 
 ANSATZ_PAGE(PsdVoigt1, .title = "",
-            .formula = "y = y0 + sum A ((1 - eta) 2 sqrt(ln 2/pi)/w exp(-4 ln 2 ((x - xc)/w)^2) + eta (2/pi) "
-                       "w/(4 (x - xc)^2 + w^2))",
+            .formula = "y = y0 + sum A ((1 - eta) G + eta L),  G = (2/w) sqrt(ln(2)/pi) exp(-4 ln(2) ((x - "
+                       "xc)/w)^2),  L = 2 w/(pi (4 (x - xc)^2 + w^2))",
             .parameters = {{"y0", "offset", Trait::offset}},
             .block = {{"xc", "centre", Trait::position},
                       {"A", "area", Trait::area},
@@ -167,8 +167,8 @@ ANSATZ_PAGE(PsdVoigt1, .title = "",
 ANSATZ_MODEL(PsdVoigt2, ValueOrRefusal<two_widths, answers>)
 
 ANSATZ_PAGE(PsdVoigt2, .title = "",
-            .formula = "y = y0 + sum A ((1 - eta) 2 sqrt(ln 2/pi)/wG exp(-4 ln 2 ((x - xc)/wG)^2) + eta (2/pi) "
-                       "wL/(4 (x - xc)^2 + wL^2))",
+            .formula = "y = y0 + sum A ((1 - eta) G + eta L),  G = (2/wG) sqrt(ln(2)/pi) exp(-4 ln(2) ((x - "
+                       "xc)/wG)^2),  L = 2 wL/(pi (4 (x - xc)^2 + wL^2))",
             .parameters = {{"y0", "offset", Trait::offset}},
             .block = {{"xc", "centre", Trait::position},
                       {"A", "area", Trait::area},

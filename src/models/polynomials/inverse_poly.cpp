@@ -97,7 +97,7 @@ struct Form {
 
 ANSATZ_MODEL(InvsPoly, Form)
 
-ANSATZ_PAGE(InvsPoly, .title = "", .formula = "y = y0 + sum A/(1 + b z + c z^2 + d z^3), z = (2 (x - xc)/w)^2",
+ANSATZ_PAGE(InvsPoly, .title = "", .formula = "y = y0 + sum A/(1 + b z + c z^2 + d z^3),  z = (2 (x - xc)/w)^2",
             .parameters = {{"y0", "offset", Trait::offset}},
             .block = {{"xc", "centre", Trait::position},
                       {"w", "width, above 0; for b=1, c=0, d=0 the full width at half maximum", Trait::width},

@@ -43,10 +43,10 @@ Status derivatives(const Point& at) {
 
 ANSATZ_MODEL(PolyN, BothPaths<value, derivatives>)
 
-ANSATZ_PAGE(PolyN, .title = "", .formula = "y = sum a_i x^i, i = 0, 1, 2, ...",
-            .block = {{"a", "coefficient", Trait::constant}}, .block_name = "term", .first_block = 0,
+ANSATZ_PAGE(PolyN, .title = "", .formula = "y = sum a x^i",
+            .block = {{"a", "coefficient of x^i", Trait::constant}}, .block_name = "term", .first_block = 0,
             .components = false, .layout = {.block = 1, .least = 1},
-            .notes = "As many terms as there are parameters. With high orders and x far from 0 the "
-                     "coefficients become hard to tell apart: shift x, or use fewer.")
+            .notes = "As many terms as there are parameters, from i = 0 on. With high orders and x far from 0 "
+                     "the coefficients become hard to tell apart: shift x, or use fewer.")
 
 } // namespace ansatz::poly

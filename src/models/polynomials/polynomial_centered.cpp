@@ -23,7 +23,7 @@ Status value(const Point& at) {
 
 ANSATZ_MODEL(PolyCtr5, ValueOrNothing<value>)
 
-ANSATZ_PAGE(PolyCtr5, .title = "", .formula = "y = a0 + a1 t + a2 t^2 + a3 t^3 + a4 t^4 + a5 t^5, t = x - xc",
+ANSATZ_PAGE(PolyCtr5, .title = "", .formula = "y = a0 + a1 t + a2 t^2 + a3 t^3 + a4 t^4 + a5 t^5,  t = x - xc",
             .parameters = {{"a0", "y at xc", Trait::constant},
                            {"xc", "centre, your choice: the middle of the data, for instance",
                             Trait::reference},

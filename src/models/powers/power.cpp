@@ -120,7 +120,7 @@ Status power2_derivatives(const Point& at) {
 
 ANSATZ_MODEL(Power0, BothPaths<power0_value, power0_derivatives>)
 
-ANSATZ_PAGE(Power0, .title = "", .formula = "y = y0 + A |x - xc|^p",
+ANSATZ_PAGE(Power0, .title = "", .formula = "y = y0 + A abs(x - xc)^p",
             .parameters = {{"y0", "offset", Trait::offset},
                            {"xc", "centre", Trait::position},
                            {"A", "amplitude, height above the offset at distance 1", Trait::amplitude},
@@ -130,7 +130,7 @@ ANSATZ_PAGE(Power0, .title = "", .formula = "y = y0 + A |x - xc|^p",
 
 ANSATZ_MODEL(Power1, BothPaths<power1_value, power1_derivatives>)
 
-ANSATZ_PAGE(Power1, .title = "", .formula = "y = A |x - xc|^p",
+ANSATZ_PAGE(Power1, .title = "", .formula = "y = A abs(x - xc)^p",
             .parameters = {{"xc", "centre", Trait::position},
                            {"A", "amplitude, value at distance 1", Trait::amplitude},
                            {"p", "exponent", Trait::exponent}},
@@ -139,7 +139,8 @@ ANSATZ_PAGE(Power1, .title = "", .formula = "y = A |x - xc|^p",
 
 ANSATZ_MODEL(Power2, BothPaths<power2_value, power2_derivatives>)
 
-ANSATZ_PAGE(Power2, .title = "", .formula = "y = A |x - xc|^pl for x < xc, A |x - xc|^pu for x > xc, 0 at xc",
+ANSATZ_PAGE(Power2, .title = "",
+            .formula = "y = A abs(x - xc)^pl for x < xc, A abs(x - xc)^pu for x > xc, 0 otherwise",
             .parameters = {{"xc", "centre", Trait::position},
                            {"A", "amplitude, value at distance 1 on both sides", Trait::amplitude},
                            {"pl", "exponent below the centre", Trait::exponent},

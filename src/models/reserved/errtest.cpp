@@ -43,15 +43,14 @@ Status derivatives(const Point& at) {
 
 ANSATZ_MODEL(errtest, BothPaths<value, derivatives>)
 
-ANSATZ_PAGE(
-    errtest, .title = "", .formula = "y = a + b x",
-    .parameters =
-        {{"a", "intercept", Trait::constant},
-         {"b", "slope", Trait::slope},
-         {"c",
-          "the failure to rehearse: 1 range error, 2 domain error, 3 failed check; any other value for none",
-          Trait::constant}},
-    .notes = "Lets a host rehearse its error handling. A fit has to hold c (--fix c=0), which the line does "
-             "not depend on.")
+ANSATZ_PAGE(errtest, .title = "", .formula = "y = a + b x",
+            .parameters = {{"a", "intercept", Trait::constant},
+                           {"b", "slope", Trait::slope},
+                           {"c",
+                            "without effect on y: the failure to rehearse, 1 range error, 2 domain error, 3 "
+                            "failed check; any other value for none",
+                            Trait::constant}},
+            .notes = "Lets a host rehearse its error handling. A fit has to hold c (--fix c=0), which the line "
+                     "does not depend on.")
 
 } // namespace ansatz::errtest

@@ -34,7 +34,7 @@ ANSATZ_MODEL(GaussianLorentz, ValueOrNothing<value>)
 ANSATZ_PAGE(
     GaussianLorentz, .title = "",
     .formula =
-        "y1 = y0 + A1/(w1 sqrt(pi/2)) exp(-2 ((x - xc)/w1)^2);  y2 = y0 + (2 A2/pi) w2/(4 (x - xc)^2 + w2^2)",
+        "y1 = y0 + A1/(w1 sqrt(pi/2)) exp(-2 ((x - xc)/w1)^2);  y2 = y0 + 2 A2 w2/(pi (4 (x - xc)^2 + w2^2))",
     .parameters = {{"y0", "offset of both", Trait::offset},
                    {"xc", "centre of both", Trait::position},
                    {"A1", "area of the Gaussian", Trait::area},

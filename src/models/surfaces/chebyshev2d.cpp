@@ -23,16 +23,15 @@ basis_surface::Functions<5> chebyshev(double x1, double x2) {
 ANSATZ_MODEL(Chebyshev2D, basis_surface::Unchecked<5, chebyshev>::Form)
 
 ANSATZ_PAGE(
-    Chebyshev2D, .title = "",
-    .formula =
-        "y = y0 + a T1(x1) + b T2(x1) + c T1(x2) + d T2(x2) + f T1(x1) T1(x2),  T1(s) = s, T2(s) = 2 s^2 - 1",
+    Chebyshev2D, .title = "", .formula = "y = y0 + a x1 + b (2 x1^2 - 1) + c x2 + d (2 x2^2 - 1) + f x1 x2",
     .parameters = {{"y0", "offset", Trait::offset},
-                   {"a", "of T1(x1)", Trait::constant},
-                   {"b", "of T2(x1)", Trait::constant},
-                   {"c", "of T1(x2)", Trait::constant},
-                   {"d", "of T2(x2)", Trait::constant},
+                   {"a", "of T1(x1) = x1", Trait::constant},
+                   {"b", "of T2(x1) = 2 x1^2 - 1", Trait::constant},
+                   {"c", "of T1(x2) = x2", Trait::constant},
+                   {"d", "of T2(x2) = 2 x2^2 - 1", Trait::constant},
                    {"f", "of T1(x1) T1(x2)", Trait::constant}},
     .layout = {.lead = 1, .block = 5, .skipped = 0},
-    .notes = "Gives no number outside -1 <= x1, x2 <= 1: scale the data first.")
+    .notes =
+        "A series of Chebyshev polynomials. Gives no number outside -1 <= x1, x2 <= 1: scale the data first.")
 
 } // namespace ansatz::chebyshev2d

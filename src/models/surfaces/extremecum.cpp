@@ -41,20 +41,19 @@ Status value(const Point& at) {
 
 ANSATZ_MODEL(ExtremeCum, ValueOrNothing<value>)
 
-ANSATZ_PAGE(
-    ExtremeCum, .title = "",
-    .formula =
-        "y = y0 + sum (Ax F1 + Ay F2 + Axy F1 F2),  F1 = exp(-exp((xc - x1)/wx)), F2 = exp(-exp((yc - x2)/wy))",
-    .parameters = {{"y0", "offset", Trait::offset}},
-    .block = {{"Ax", "height of the step along x1", Trait::amplitude},
-              {"xc", "location of that step", Trait::constant},
-              {"wx", "its width (as x1)", Trait::constant},
-              {"Ay", "height of the step along x2", Trait::amplitude},
-              {"yc", "location of that step", Trait::constant},
-              {"wy", "its width (as x2)", Trait::constant},
-              {"Axy", "height of the joint step", Trait::amplitude}},
-    .block_name = "term", .layout = {.lead = 1, .block = 7, .skipped = 0},
-    .notes = "A negative width turns a step round. More than 300 widths below a location the step is back on "
-             "its plateau: keep the data within that.")
+ANSATZ_PAGE(ExtremeCum, .title = "",
+            .formula = "y = y0 + sum (Ax F1 + Ay F2 + Axy F1 F2),  F1 = exp(-exp((xc - x1)/wx)),  F2 = "
+                       "exp(-exp((yc - x2)/wy))",
+            .parameters = {{"y0", "offset", Trait::offset}},
+            .block = {{"Ax", "height of the step along x1", Trait::amplitude},
+                      {"xc", "location of that step", Trait::constant},
+                      {"wx", "its width (as x1)", Trait::constant},
+                      {"Ay", "height of the step along x2", Trait::amplitude},
+                      {"yc", "location of that step", Trait::constant},
+                      {"wy", "its width (as x2)", Trait::constant},
+                      {"Axy", "height of the joint step", Trait::amplitude}},
+            .block_name = "term", .layout = {.lead = 1, .block = 7, .skipped = 0},
+            .notes = "A negative width turns a step round. More than 300 widths below a location the step is "
+                     "back on its plateau: keep the data within that.")
 
 } // namespace ansatz::extremecum

@@ -66,7 +66,7 @@ struct Turned : peak_surface::Block {
 
 ANSATZ_MODEL(Gauss2D, peak_surface::Form<Upright>)
 
-ANSATZ_PAGE(Gauss2D, .title = "", .formula = "y = y0 + sum A exp(-((x1 - xc)/wx)^2/2 - ((x2 - yc)/wy)^2/2)",
+ANSATZ_PAGE(Gauss2D, .title = "", .formula = "y = y0 + sum A exp(-(x1 - xc)^2/(2 wx^2) - (x2 - yc)^2/(2 wy^2))",
             .parameters = {{"y0", "offset", Trait::offset}},
             .block = {{"A", "height of the peak", Trait::amplitude},
                       {"xc", "centre on x1", Trait::position},
@@ -80,8 +80,8 @@ ANSATZ_MODEL(Gaussian2D, peak_surface::Form<Turned>)
 
 ANSATZ_PAGE(
     Gaussian2D, .title = "",
-    .formula = "y = y0 + A exp(-(u/wx)^2/2 - (v/wy)^2/2),  u = (x1 - xc) cos(t) + (x2 - yc) sin(t), v = (x2 - "
-               "yc) cos(t) - (x1 - xc) sin(t)",
+    .formula = "y = y0 + A exp(-u^2/(2 wx^2) - v^2/(2 wy^2)),  u = (x1 - xc) cos(t) + (x2 - yc) sin(t),  v = "
+               "(x2 - yc) cos(t) - (x1 - xc) sin(t)",
     .parameters = {{"y0", "offset", Trait::offset},
                    {"A", "height of the peak", Trait::amplitude},
                    {"xc", "centre on x1", Trait::position},

@@ -39,7 +39,7 @@ Status value(const Point& at) {
 ANSATZ_MODEL(GaussCum, surfaces::ValueThenOffset<value>)
 
 ANSATZ_PAGE(GaussCum, .title = "",
-            .formula = "y = y0 + sum A/4 (1 + erf((x1 - xc)/(sqrt(2) wx))) (1 + erf((x2 - yc)/(sqrt(2) wy)))",
+            .formula = "y = y0 + sum (A/4) (1 + erf((x1 - xc)/(sqrt(2) wx))) (1 + erf((x2 - yc)/(sqrt(2) wy)))",
             .parameters = {{"y0", "offset", Trait::offset}},
             .block = {{"A", "height of the plateau", Trait::amplitude},
                       {"xc", "centre on x1", Trait::position},

@@ -38,7 +38,8 @@ Status value(const Point& at) {
 
 ANSATZ_MODEL(GaussLog, surfaces::ValueThenOffset<value>)
 
-ANSATZ_PAGE(GaussLog, .title = "", .formula = "y = y0 + sum A exp(-((x1 - xc)/wx)^2/2 - (ln(x2/yc)/wy)^2/2)",
+ANSATZ_PAGE(GaussLog, .title = "",
+            .formula = "y = y0 + sum A exp(-(x1 - xc)^2/(2 wx^2) - ln(x2/yc)^2/(2 wy^2))",
             .parameters = {{"y0", "offset", Trait::offset}},
             .block = {{"A", "height of the peak", Trait::amplitude},
                       {"xc", "centre on x1", Trait::position},

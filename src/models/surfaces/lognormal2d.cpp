@@ -45,8 +45,8 @@ Status value(const Point& at) {
 ANSATZ_MODEL(LogNormal2D, ValueOrNothing<value>)
 
 ANSATZ_PAGE(LogNormal2D, .title = "",
-            .formula = "y = y0 + sum (Ax e1 + Ay e2 + Axy e1 e2),  e1 = exp(-(ln(x1/cx)/wx)^2/2), e2 = "
-                       "exp(-(ln(x2/cy)/wy)^2/2)",
+            .formula = "y = y0 + sum (Ax e1 + Ay e2 + Axy e1 e2),  e1 = exp(-ln(x1/cx)^2/(2 wx^2)),  e2 = "
+                       "exp(-ln(x2/cy)^2/(2 wy^2))",
             .parameters = {{"y0", "offset", Trait::offset}},
             .block = {{"Ax", "amplitude of the ridge across x1", Trait::amplitude},
                       {"cx", "top of that ridge on x1", Trait::level},

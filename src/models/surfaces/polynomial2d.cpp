@@ -21,7 +21,8 @@ basis_surface::Functions<10> powers(double x1, double x2) {
 ANSATZ_MODEL(Polynomial2D, basis_surface::Unchecked<10, powers>::Form)
 
 ANSATZ_PAGE(Polynomial2D, .title = "",
-            .formula = "y = y0 + a1 x1 + a2 x1^2 + .. + a5 x1^5 + b1 x2 + b2 x2^2 + .. + b5 x2^5",
+            .formula = "y = y0 + a1 x1 + a2 x1^2 + a3 x1^3 + a4 x1^4 + a5 x1^5 + b1 x2 + b2 x2^2 + b3 x2^3 + "
+                       "b4 x2^4 + b5 x2^5",
             .parameters = {{"y0", "level at the origin", Trait::offset},
                            {"a1", "of x1", Trait::constant},
                            {"a2", "of x1^2", Trait::constant},

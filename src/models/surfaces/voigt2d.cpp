@@ -44,8 +44,8 @@ ANSATZ_MODEL(Voigt2D, peak_surface::Form<Shape>)
 
 ANSATZ_PAGE(
     Voigt2D, .title = "",
-    .formula = "y = y0 + sum A ((1 - f) exp(-u^2/2 - v^2/2) + f/((1 + u^2) (1 + v^2))),  u = (x1 - xc)/wx, v = "
-               "(x2 - yc)/wy",
+    .formula = "y = y0 + sum A ((1 - f) exp(-u^2/2 - v^2/2) + f/((1 + u^2) (1 + v^2))),  u = (x1 - xc)/wx,  v "
+               "= (x2 - yc)/wy",
     .parameters = {{"y0", "offset", Trait::offset}},
     .block =
         {{"A", "height of the peak", Trait::amplitude},

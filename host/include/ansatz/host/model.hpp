@@ -25,8 +25,8 @@ struct Slot {
     std::string symbol;  ///< "w", or "w1", "w2" with several peaks; the number where there is no page
     std::string meaning; ///< may be empty
     Trait trait = Trait::constant;
-    /// Expected-value models are written in terms of the response expected at some x, which the user chooses: a fit holds
-    /// that x fixed unless told otherwise.
+    /// Expected-value models are written in terms of the response expected at some x, which the user chooses: a
+    /// fit holds that x fixed unless told otherwise.
     bool reference() const { return trait == Trait::reference; }
 };
 
