@@ -97,6 +97,7 @@ Json describe_json(const host::Model& model) {
                  {"reserved", model.reserved()}};
     if (!page.reserved) {
         json["formula"] = page.formula;
+        json["latex"] = latex(page);
         json["parameters"] = parameters_json(page.parameters);
         json["block"] = parameters_json(page.block);
         json["block_name"] = page.block_name;
