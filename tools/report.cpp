@@ -40,6 +40,10 @@ std::string TextTable::text(std::string_view indent) const {
     return result;
 }
 
+std::string json_text(const Json& json) {
+    return json.dump(2, ' ', true, Json::error_handler_t::replace);
+}
+
 Json describe_json(const host::Model& model) {
     Json json = {{"name", model.name()},
                  {"family", model.family()},
