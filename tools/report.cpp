@@ -41,6 +41,10 @@ std::string TextTable::text(std::string_view indent) const {
     return result;
 }
 
+std::string json_text(const Json& json) {
+    return json.dump(2, ' ', true, Json::error_handler_t::replace);
+}
+
 namespace {
 
 /// A bound, or null where there is none.
