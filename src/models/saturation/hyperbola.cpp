@@ -1,81 +1,87 @@
-// Rectangular hyperbolas, laws of saturation: Hyperbl, and Dhyperbl with two sites and a linear part.
-//
-//   Hyperbl    y = P1 x / (P2 + x)
-//   Dhyperbl   y = P1 x / (P2 + x) + P3 x / (P4 + x) + P5 x
-//
-//   P1, P3 capacity (unit of y), the level reached for large x; P2, P4 the x at which half of it is reached;
-//   P5 slope of the unsaturable part (unit of y per unit of x).
-//
-//   Fails where a denominator is 0; the derivatives of Hyperbl then mark both slots, those of Dhyperbl leave
-//   theirs untouched. The value also fails for nParams <= 0. No library function is called, so a pending
-//   error passes through unseen.
+// HyperbolaMod and HyperbolaEVP. A failure of the derivatives of HyperbolaMod marks y[1] only. Those of
+// HyperbolaEVP divide by P2, P4 and P3 - P1, which no test guards: where one is 0 they are infinite or no
+// numbers, with status 0. No library function is called, so a pending error passes through unseen.
 
-#include "protocol/forms.h"
+#include "protocol/handbook_law.h"
 
-namespace ansatz::hyperbola {
+namespace ansatz::hyperbola_mod {
 namespace {
 
-Status hyperbl_value(const Point& at) {
+Status value(const Point& at) {
     const auto [n, P, x, y, dyda] = at;
-    if (n < 1) return fail(at);
-    const double s = P[2] + x[1];
-    if (s == 0) return fail(at);
-    y[1] = P[1] * x[1] / s;
+    const Real D = P[1] * x[1] + P[2];
+    if (D == 0) return fail(at);
+    y[1] = x[1] / D;
     return success;
 }
 
-Status hyperbl_derivatives(const Point& at) {
+Status derivatives(const Point& at) {
     const auto [n, P, x, y, dyda] = at;
-    const double s = P[2] + x[1];
-    if (s == 0) return fail(at, 1, 2);
-    const double share = x[1] / s;
-    const double v = share * P[1];
-    dyda[1] = share;
-    dyda[2] = -v / s;
-    y[1] = v;
-    return success;
-}
-
-Status dhyperbl_value(const Point& at) {
-    const auto [n, P, x, y, dyda] = at;
-    if (n < 1) return fail(at);
-    const double s1 = P[2] + x[1], s2 = P[4] + x[1];
-    if (s1 == 0 || s2 == 0) return fail(at);
-    y[1] = P[1] * x[1] / s1 + (P[3] * x[1] / s2 + P[5] * x[1]);
-    return success;
-}
-
-Status dhyperbl_derivatives(const Point& at) {
-    const auto [n, P, x, y, dyda] = at;
-    const double s1 = P[2] + x[1], s2 = P[4] + x[1];
-    if (s1 == 0 || s2 == 0) return fail(at);
-    const double share1 = x[1] / s1, share2 = x[1] / s2;
-    y[1] = P[3] * share2 + P[1] * share1 + P[5] * x[1];
-    dyda[1] = share1;
-    dyda[2] = -P[1] * share1 / s1;
-    dyda[3] = share2;
-    dyda[4] = -P[3] * share2 / s2;
-    dyda[5] = x[1];
+    const Real D = P[1] * x[1] + P[2];
+    if (D == 0) return fail(at);
+    const Real h = x[1] / D;
+    y[1] = h;
+    dyda[1] = -(h * h);
+    dyda[2] = -h / D;
     return success;
 }
 
 } // namespace
 
-ANSATZ_MODEL(Hyperbl, BothPaths<hyperbl_value, hyperbl_derivatives>)
+ANSATZ_MODEL(HyperbolaMod, HandbookLaw<value, derivatives>)
 
-ANSATZ_PAGE(Hyperbl, .title = "", .formula = "y = A x/(K + x)",
-            .parameters = {{"A", "capacity, the level for large x", Trait::constant},
-                           {"K", "x at which half of it is reached", Trait::constant}},
-            .notes = "Fails at x = -K.")
+ANSATZ_PAGE(HyperbolaMod,
+            .title = "Saturation along a hyperbola through the origin, by the straight line of x/y against x",
+            .formula = "y = x/(a x + b)",
+            .parameters = {{"a", "inverse of the maximum: slope of the line x/y against x",
+                            Trait::inverse_level},
+                           {"b", "inverse of the slope at x = 0: intercept of that line", Trait::coefficient,
+                            Dimension{.x = 1, .y = -1}, not_zero}},
+            .typical = {{0.125, 0.25}, 0, 20}, .same_as = "MicMent(Vmax = 1/a, Km = b/a)",
+            .notes = "Fails where a x + b = 0.")
 
-ANSATZ_MODEL(Dhyperbl, BothPaths<dhyperbl_value, dhyperbl_derivatives>)
+} // namespace ansatz::hyperbola_mod
 
-ANSATZ_PAGE(Dhyperbl, .title = "", .formula = "y = A1 x/(K1 + x) + A2 x/(K2 + x) + s x",
-            .parameters = {{"A1", "capacity of the first site", Trait::constant},
-                           {"K1", "x at which half of it is reached", Trait::constant},
-                           {"A2", "capacity of the second site", Trait::constant},
-                           {"K2", "x at which half of it is reached", Trait::constant},
-                           {"s", "slope of the part that does not saturate", Trait::slope}},
-            .notes = "Fails at x = -K1 and x = -K2. Start a fit with K1 and K2 that differ by a factor.")
+namespace ansatz::hyperbola_evp {
+namespace {
 
-} // namespace ansatz::hyperbola
+Status value(const Point& at) {
+    const auto [n, P, x, y, dyda] = at;
+    const Real D = (x[1] - P[1]) * P[3] * P[2] + (P[3] - x[1]) * P[1] * P[4];
+    if (D == 0) return fail(at);
+    y[1] = (P[3] - P[1]) * x[1] * P[2] * P[4] / D;
+    return success;
+}
+
+Status derivatives(const Point& at) {
+    const auto [n, P, x, y, dyda] = at;
+    const Real u = x[1] - P[1], v = P[3] - x[1];
+    const Scalar d = P[3] - P[1];
+    const Real D = u * P[3] * P[2] + v * P[1] * P[4];
+    if (D == 0) return fail_all(at, 4);
+    const Real h = d * x[1] * P[2] * P[4] / D;
+    y[1] = h;
+    dyda[1] = h * ((P[3] * P[2] - P[4] * v) / D - 1 / d);
+    dyda[3] = h * (1 / d - (u * P[2] + P[4] * P[1]) / D);
+    dyda[2] = h * (1 / P[2] - u * P[3] / D);
+    dyda[4] = h * (1 / P[4] - v * P[1] / D);
+    return success;
+}
+
+} // namespace
+
+ANSATZ_MODEL(HyperbolaEVP, HandbookLaw<value, derivatives>)
+
+ANSATZ_PAGE(HyperbolaEVP, .title = "Saturation along the hyperbola through the origin and two points",
+            .formula = "y = (x2 - x1) x y1 y2/((x - x1) x2 y1 + (x2 - x) x1 y2)",
+            .parameters = {{"x1", "x of the response y1", Trait::reference, not_zero},
+                           {"y1", "response at x1", Trait::response, not_zero},
+                           {"x2", "x of the response y2", Trait::reference, not_zero},
+                           {"y2", "response at x2", Trait::response, not_zero}},
+            .typical = {{2, 4, 10, 6.5}, 0, 20},
+            .same_as = "MicMent(Vmax = (x2 - x1)/(x2/y2 - x1/y1), Km = x1 x2 (1/y1 - 1/y2)/(x2/y2 - x1/y1))",
+            .notes =
+                "The saturation curve through the origin and the points (x1, y1) and (x2, y2). Fails where the "
+                "denominator is 0. x1 = x2 and a response of 0 have no derivatives: do not start a fit there.")
+
+} // namespace ansatz::hyperbola_evp
