@@ -62,21 +62,20 @@ Status derivatives(const Point& at) {
 
 ANSATZ_MODEL(SRichards1, BothPaths<value, derivatives>)
 
-ANSATZ_PAGE(
-    SRichards1, .title = "Sigmoidal growth with a shape, located by its exponential",
-    .formula = "y = (a^(1 - d) - s exp(-(x - xc) k))^(1/(1 - d)),  s = 1 for d < 1, -1 for d > 1",
-    .parameters = {{"a", "ceiling", Trait::ceiling, positive},
-                   {"xc", "location: the exponential is 1 there", Trait::position},
-                   {"d", "shape, other than 1; 2 makes it the logistic curve", Trait::exponent},
-                   {"k", "rate", Trait::rate, positive}},
-    .typical = {{8, 4, 2.5, 2}, 0, 8}, .scales = Scales::x_only,
-    .same_as = "Richards(a = a, b = -k xc/(d - 1) - ln(a), k = k/(d - 1), m = 1/(d - 1))",
-    .source = "Richards, 1959",
-    .notes =
-        "Fails for d = 1, a <= 0 and k <= 0, and for d < 1 where the base of the outer power is "
-        "not positive, before growth sets in: data that begin earlier need d > 1. A fit cannot "
-        "cross d = 1: start on the right side. xc is hard to guess, since it depends on a and d; "
-        "SRichards2 has the same curves for d > 1 with an xc one can see. So has Richards, with m = 1/(d - 1).")
+ANSATZ_PAGE(SRichards1, .title = "Sigmoidal growth with a shape, located by its exponential",
+            .formula = "y = (a^(1 - d) - s exp(-(x - xc) k))^(1/(1 - d)),  s = 1 for d < 1, -1 for d > 1",
+            .parameters = {{"a", "ceiling", Trait::ceiling, positive},
+                           {"xc", "location: the exponential is 1 there", Trait::position},
+                           {"d", "shape, other than 1; 2 makes it the logistic curve", Trait::exponent},
+                           {"k", "rate", Trait::rate, positive}},
+            .typical = {{8, 4, 2.5, 2}, 0, 8}, .scales = Scales::x_only,
+            .same_as = "Richards(a = a, b = -k xc/(d - 1) - ln(a), k = k/(d - 1), m = 1/(d - 1))",
+            .source = "Richards, 1959",
+            .notes = "Fails for d = 1, a <= 0 and k <= 0, and for d < 1 where the base of the outer power is "
+                     "not positive, before growth sets in: data that begin earlier need d > 1. A fit cannot "
+                     "cross d = 1: start on the right side. xc is hard to guess, since it depends on a and d; "
+                     "SRichards2 has the same curves for d > 0 with an xc one can see; for d > 1 so has "
+                     "Richards, with m = 1/(d - 1).")
 
 } // namespace ansatz::srichards1
 
