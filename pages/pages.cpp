@@ -86,6 +86,7 @@ std::span<const std::string_view> families() {
         for (const Page& page : pages()) {
             if (std::ranges::find(names, page.family) == names.end()) names.push_back(page.family);
         }
+        std::ranges::sort(names);
         return names;
     }();
     return all;

@@ -156,7 +156,6 @@ TEST(Families, HaveTheSameModelsAmongTheLawsAndTheCases) {
     EXPECT_EQ(differences, std::vector<std::string>());
 }
 
-// Disabled until src/models is sorted by these families.
 TEST(Families, AreTheFoldersOfTheModels) {
     std::set<std::string> families, folders;
     for (const GoldenRow& row : golden_rows()) families.insert(row.family);
