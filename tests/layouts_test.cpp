@@ -72,8 +72,7 @@ TEST(Pages, LayoutsHoldEverySlotThatACallReadsOrWrites) {
                     const auto slot = static_cast<std::size_t>(k);
                     EXPECT_TRUE(same_bits(exact.y[slot], spare.y[slot])) << "y" << k;
                     EXPECT_TRUE(same_bits(exact.dyda[slot], spare.dyda[slot])) << "d" << k;
-                    if (k > known)
-                        EXPECT_TRUE(same_bits(exact.dyda[slot], canary)) << "d" << k << " is written";
+                    EXPECT_TRUE(k <= known || same_bits(exact.dyda[slot], canary)) << "d" << k;
                 }
             }
         }
