@@ -132,7 +132,7 @@ ANSATZ_PAGE(Asymptotic3, .title = "Exponential approach to a level, by the x whe
             .parameters = {{"a", "asymptote", Trait::level},
                            {"x0", "x at which y is 0", Trait::threshold},
                            {"k", "rate, 1/(unit of x)", Trait::rate, positive}},
-            .typical = {{5, -0.5, 0.5}, 0, 10}, .same_as = "ExpDec1(y0 = a, A1 = -a exp(k x0), t1 = 1/k)",
+            .typical = {{5, -0.5, 0.5}, -0.5, 10}, .same_as = "ExpDec1(y0 = a, A1 = -a exp(k x0), t1 = 1/k)",
             .known_as = "von Bertalanffy growth in length, monomolecular growth", .notes = "Fails for k <= 0.")
 
 } // namespace ansatz::asymptotic3
