@@ -2,7 +2,9 @@
 
 #include <ansatz/page.hpp>
 
+#include <iterator>
 #include <string>
+#include <utility>
 #include <vector>
 
 #define ENTRY(name, nIndep, nDep, nParams, routine) extern "C" const ansatz::Page ansatz_page_##name;
@@ -68,6 +70,14 @@ const Page* find_page(std::string_view name) {
     const auto all = pages();
     const auto found = std::ranges::find_if(all, [&](const Page& page) { return same_name(page.name, name); });
     return found == all.end() ? nullptr : &*found;
+}
+
+std::string_view latex(const Page& page) {
+    static constexpr std::pair<std::string_view, std::string_view> formulas[] = {
+#include "latex.inc"
+        {"", ""}};
+    const auto found = std::ranges::find(formulas, page.name, [](const auto& formula) { return formula.first; });
+    return found == std::end(formulas) ? std::string_view{} : found->second;
 }
 
 std::span<const std::string_view> families() {
