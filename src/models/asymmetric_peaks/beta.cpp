@@ -58,9 +58,8 @@ ANSATZ_PAGE(
     .typical = {{0.2, 3, 2, 4, 2, 4, 7, 3, 4, 5, 2.5}, 0, 10}, .departures = {{3, "A = 0"}},
     .known_as = "beta distribution",
     .notes =
-        "0 outside its support, which begins w (p - 1)/r left of the centre. Fails for w <= 0, p <= 1 and q <= "
-        "1. w, p and q are strongly correlated: the ends of the support are where there is little to see. A "
-        "peak "
-        "of height 0 has no derivatives: do not start a fit there.")
+        "0 outside its support, which begins w (p - 1)/r left of the centre. Fails for w <= 0, p <= 1 and q "
+        "<= 1. w, p and q are strongly correlated: the ends of the support are where there is little to "
+        "see. A peak of height 0 has no derivatives: do not start a fit there.")
 
 } // namespace ansatz::beta
