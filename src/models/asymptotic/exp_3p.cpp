@@ -115,7 +115,7 @@ ANSATZ_PAGE(
                    {"c", "of x^2, 1/(unit of x)^2; negative for a bell with its maximum at x = -b/(2 c)",
                     Trait::coefficient, Dimension{.x = -2}}},
     .typical = {{-3, 1.8, -0.2}, 0, 10}, .scales = Scales::x_only,
-    .same_as = "GaussAmp(y0 = 0, xc = -b/(2 c), w = sqrt(-1/(2 c)), A = exp(a - b^2/(4 c)))",
+    .same_as = "Gauss(y0 = 0, xc = -b/(2 c), w = sqrt(-2/c), A = sqrt(-pi/c) exp(a - b^2/(4 c)))",
     .notes = "Positive responses only. Fails where the exponential overflows. It is a Gaussian for c < 0 "
              "alone; for c > 0 it has a minimum in place of the maximum.")
 
