@@ -99,7 +99,7 @@ def entry(page, error):
 
 
 def document(pages, errors_of):
-    families = list(dict.fromkeys(p["family"] for p in pages))
+    families = sorted({p["family"] for p in pages})
     yield HEAD.format(counts=counts(pages)).rstrip("\n")
     yield ""
     for family in families:

@@ -15,13 +15,13 @@
 namespace ansatz {
 namespace {
 
-constexpr double epsilon = std::numeric_limits<double>::epsilon();
+constexpr Scalar epsilon = std::numeric_limits<Scalar>::epsilon();
 
 /// The quotients of successive terms of the power series, without their factor z. At z = 40 about 100 are used.
-template <int b> constexpr std::array<double, 128> quotients = [] {
-    std::array<double, 128> q{};
+template <int b> constexpr std::array<Scalar, 128> quotients = [] {
+    std::array<Scalar, 128> q{};
     for (std::size_t k = 0; k < q.size(); ++k) {
-        const auto n = static_cast<double>(k);
+        const auto n = static_cast<Scalar>(k);
         q[k] = (b - 1.5 + n) / ((b + n) * (n + 1));
     }
     return q;
@@ -29,18 +29,18 @@ template <int b> constexpr std::array<double, 128> quotients = [] {
 
 /// M(3/2, b, -z) for z >= 0. From z = 40 on the smallest term of the asymptotic series is below half a unit of
 /// the last digit; the terms before decline, so the loop ends where a term no longer counts.
-template <int b> double kummer(double gamma_quotient, double z) {
-    double term = 1, sum = 1;
+template <int b> Real kummer(Scalar gamma_quotient, Real z) {
+    Real term = 1, sum = 1;
     if (z < 40) {
-        for (const double q : quotients<b>) {
+        for (const Scalar q : quotients<b>) {
             term *= q * z;
             sum += term;
             if (!(term > 0.125 * epsilon * sum)) break;
         }
         return exp(-z) * sum;
     }
-    const double t = 1 / z;
-    for (double k = 0; k < 40 && std::fabs(term) > 0.125 * epsilon; ++k) {
+    const Real t = 1 / z;
+    for (Scalar k = 0; k < 40 && std::fabs(term) > 0.125 * epsilon; ++k) {
         term *= (1.5 + k) * (2.5 - b + k) / (k + 1) * t;
         sum += term;
     }
@@ -49,13 +49,13 @@ template <int b> double kummer(double gamma_quotient, double z) {
 
 } // namespace
 
-double scaled_bessel_i1(double t) {
-    constexpr double gamma_quotient = 2.2567583341910251; // Gamma(3) / Gamma(3/2) = 4 / sqrt(pi)
+Real scaled_bessel_i1(Real t) {
+    constexpr Scalar gamma_quotient = 2.2567583341910251; // Gamma(3) / Gamma(3/2) = 4 / sqrt(pi)
     return 0.5 * t * kummer<3>(gamma_quotient, 2 * t);
 }
 
-double scaled_bessel_i0_minus_i1(double t) {
-    constexpr double gamma_quotient = 0.5641895835477563; // Gamma(2) / Gamma(1/2) = 1 / sqrt(pi)
+Real scaled_bessel_i0_minus_i1(Real t) {
+    constexpr Scalar gamma_quotient = 0.5641895835477563; // Gamma(2) / Gamma(1/2) = 1 / sqrt(pi)
     return kummer<2>(gamma_quotient, 2 * t);
 }
 

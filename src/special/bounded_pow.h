@@ -8,7 +8,7 @@ namespace ansatz {
 /// a^b into *result, with a and b both replaced by 140 where both exceed it: 140^140, about 2.9e300, is the
 /// largest power of two like numbers that a double holds with room to spare. False if the library reported an
 /// error.
-inline bool try_bounded_pow(double a, double b, double* result) {
+inline bool try_bounded_pow(Real a, Real b, Real* result) {
     if (a > 140 && b > 140) {
         *result = safe_pow(140, 140);
         return true;
@@ -19,9 +19,9 @@ inline bool try_bounded_pow(double a, double b, double* result) {
 
 /// The same as a value; MISSING_VALUE if the library reported an error, which stays set for the caller to see,
 /// or if an argument is MISSING_VALUE itself.
-inline double bounded_pow(double a, double b) {
+inline Real bounded_pow(Real a, Real b) {
     if (a == MISSING_VALUE || b == MISSING_VALUE) return MISSING_VALUE;
-    double result = 0;
+    Real result = 0;
     return try_bounded_pow(a, b, &result) ? result : MISSING_VALUE;
 }
 

@@ -5,20 +5,22 @@
 // numbers, gamma_fn and gamma_prime overflow (a range error) above z = 171.6.
 #pragma once
 
+#include "build/arithmetic.h"
+
 namespace ansatz {
 
 /// ln Gamma(z) for z > 0, by Lanczos' series. Error below 2.1e-10 for z >= 1 (measured up to 171).
-double ln_gamma(double z);
+Scalar ln_gamma(Scalar z);
 
 /// Gamma(z) for z > 0, by reflection below 1; MISSING_VALUE for z <= 0. Relative error below 2.1e-10.
-double gamma_fn(double z);
+Scalar gamma_fn(Scalar z);
 
 /// The derivative of ln_gamma, term by term. Error below 5e-11 for z >= 1.
-double digamma_fn(double z);
+Scalar digamma_fn(Scalar z);
 
 /// The derivative of gamma_fn from z = 1 on. Below 1 it gives the derivative of a sin(a) / Gamma(2 - z) with
 /// a = pi (1 - z), where gamma_fn has a / (sin(a) Gamma(2 - z)): another number, which "PearsonVII" reports in
 /// its derivative by the shape. MISSING_VALUE for z <= 0.
-double gamma_prime(double z);
+Scalar gamma_prime(Scalar z);
 
 } // namespace ansatz

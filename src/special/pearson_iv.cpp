@@ -19,15 +19,15 @@
 namespace ansatz {
 namespace {
 
-constexpr double sqrt_pi = 1.7724538509055161;
+constexpr Scalar sqrt_pi = 1.7724538509055161;
 
 // Stirling's series S(z), in z^-1, z^-3, ..: B(2j) / (2j (2j - 1)).
 constexpr int stirling_terms = 7;
-constexpr double stirling[stirling_terms] = {1.0 / 12,   -1.0 / 360,        1.0 / 1260, -1.0 / 1680,
+constexpr Scalar stirling[stirling_terms] = {1.0 / 12,   -1.0 / 360,        1.0 / 1260, -1.0 / 1680,
                                              1.0 / 1188, -691.0 / 360360.0, 1.0 / 156};
 
 // The series of ln Gamma(v + 3/4) / Gamma(v + 1/4) - ln sqrt(v), in v^-2, v^-4, ..: -E(2j) / (4^(2j+1) j).
-constexpr double half_step[] = {1.0 / 64,
+constexpr Scalar half_step[] = {1.0 / 64,
                                 -5.0 / 2048,
                                 61.0 / 49152,
                                 -1385.0 / 1048576,
@@ -36,20 +36,20 @@ constexpr double half_step[] = {1.0 / 64,
                                 199360981.0 / 7516192768.0};
 
 /// c1 t + c2 t^2 + ..
-template <int count> double series(const double (&c)[count], double t) {
-    double sum = 0;
+template <int count> Scalar series(const Scalar (&c)[count], Scalar t) {
+    Scalar sum = 0;
     for (int j = count - 1; j >= 0; --j) sum = (sum + c[j]) * t;
     return sum;
 }
 
 /// Re S(M + iy)
-double stirling_real(double M, double y) {
-    const double size = M * M + y * y;
-    const double re = M / size, im = -y / size; // 1 / (M + iy)
-    const double re2 = re * re - im * im, im2 = 2 * re * im;
-    double sum_re = 0, sum_im = 0;
+Scalar stirling_real(Scalar M, Scalar y) {
+    const Scalar size = M * M + y * y;
+    const Scalar re = M / size, im = -y / size; // 1 / (M + iy)
+    const Scalar re2 = re * re - im * im, im2 = 2 * re * im;
+    Scalar sum_re = 0, sum_im = 0;
     for (int j = stirling_terms - 1; j >= 0; --j) {
-        const double r = sum_re * re2 - sum_im * im2 + stirling[j];
+        const Scalar r = sum_re * re2 - sum_im * im2 + stirling[j];
         sum_im = sum_re * im2 + sum_im * re2;
         sum_re = r;
     }
@@ -57,27 +57,27 @@ double stirling_real(double M, double y) {
 }
 
 /// The density at z, by z.
-double density(double z, double m, double nu) {
-    const double y = 0.5 * nu;
-    double M = m, above = 1, below = 1;
+Real density(Real z, Scalar m, Scalar nu) {
+    const Scalar y = 0.5 * nu;
+    Scalar M = m, above = 1, below = 1;
     for (; M < 10; ++M) {
         above *= (M - 0.5) * M;
         below *= M * M + y * y;
     }
-    const double v = M - 0.75, slope = y / M;
-    const double angle = std::atan2(y + M * z, M - y * z); // atan(y/M) + atan z
-    const double exponent = (M - 0.5) * std::log1p(slope * slope) - m * std::log1p(z * z) - nu * angle +
-                            2 * (stirling_real(M, y) - M * series(stirling, 1 / (M * M))) +
-                            series(half_step, 1 / (v * v)) + std::log(above / below);
+    const Scalar v = M - 0.75, slope = y / M;
+    const Real angle = std::atan2(y + M * z, M - y * z); // atan(y/M) + atan z
+    const Real exponent = (M - 0.5) * std::log1p(slope * slope) - m * std::log1p(z * z) - nu * angle +
+                          2 * (stirling_real(M, y) - M * series(stirling, 1 / (M * M))) +
+                          series(half_step, 1 / (v * v)) + std::log(above / below);
     return std::sqrt(v) / sqrt_pi * std::exp(exponent);
 }
 
 } // namespace
 
-double pearson_iv(double offset, double location, double area, double width, double nu, double m, double x) {
+Real pearson_iv(Scalar offset, Scalar location, Scalar area, Scalar width, Scalar nu, Scalar m, Real x) {
     if (m <= 0.5 || width <= 0) return MISSING_VALUE;
     const int before = indicator();
-    const double y = offset + area * density((x - location) / width, m, nu) / width;
+    const Real y = offset + area * density((x - location) / width, m, nu) / width;
     indicator() = before;
     return y;
 }

@@ -1,6 +1,7 @@
-// The frame of the asymmetric peaks: a common offset P1, then equal blocks of parameters, one per peak.
+// The frame of the asymmetric peaks and the pseudo-Voigts: a common offset P1, then equal blocks of parameters,
+// one per peak.
 //
-// The number of peaks is (nParams - 1) / size; parameters behind the last whole block are ignored. y[i+1] is
+// The number of peaks is (nParams - 1) / size; parameters after the last whole block are ignored. y[i+1] is
 // peak i alone. A peak whose amplitude (or area) is exactly 0 is skipped, whatever its other parameters: its
 // component keeps what it held, its derivatives are 0. Fails for nParams < 1, for parameters that the peak does
 // not allow, and on an error of its library calls, which is looked for once per peak, so that a pending one is
@@ -23,13 +24,13 @@ namespace ansatz::blocks {
 template <class Peak> Status value(const Point& at) {
     const auto [n, P, x, y, dyda] = at;
     if (n < 1) return fail(at);
-    double sum = P[1];
+    Real sum = P[1];
     const int peaks = (n - 1) / Peak::size;
-    const double* p = P + 2;
+    const Scalar* p = P + 2;
     for (int i = 1; i <= peaks; ++i, p += Peak::size) {
         if (p[Peak::amplitude] == 0) continue;
         if (!Peak::allows(p)) return fail(at);
-        const double peak = Peak::value(x[1], p);
+        const Real peak = Peak::value(x[1], p);
         if (math_error()) return fail(at);
         y[i + 1] = peak;
         sum += peak;
@@ -42,10 +43,10 @@ template <class Peak> Status derivatives(const Point& at) {
     const auto [n, P, x, y, dyda] = at;
     if (n < 1) return fail(at);
     dyda[1] = 1;
-    double sum = P[1];
+    Real sum = P[1];
     const int peaks = (n - 1) / Peak::size;
-    const double* p = P + 2;
-    double* d = dyda + 2;
+    const Scalar* p = P + 2;
+    Real* d = dyda + 2;
     const auto failed = [&] {
         std::fill_n(d, Peak::size, MISSING_VALUE);
         return fail(at, 1);
@@ -56,7 +57,7 @@ template <class Peak> Status derivatives(const Point& at) {
             continue;
         }
         if (!Peak::allows(p)) return failed();
-        const double peak = Peak::slopes(x[1], p, d);
+        const Real peak = Peak::slopes(x[1], p, d);
         if (math_error()) return failed();
         y[i + 1] = peak;
         sum += peak;
@@ -73,15 +74,15 @@ template <class Peak> using ValueOrRefusal =
     ansatz::ValueOrRefusal<value<Peak>, Answers{.query = 0, .probe = true}>;
 
 /// For a peak that is 0, with all its derivatives, at this x.
-template <int size> double nothing(double* d) {
+template <int size> Real nothing(Real* d) {
     std::fill_n(d, size, 0.0);
     return 0;
 }
 
 /// e^t whose overflow is no error: the term is infinite, and what it damps reaches its limit, 0.
-inline double saturating_exp(double t) {
+inline Real saturating_exp(Real t) {
     const int before = indicator();
-    const double r = safe_exp(t);
+    const Real r = safe_exp(t);
     if (std::isinf(r)) indicator() = before;
     return r;
 }

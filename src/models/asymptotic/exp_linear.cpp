@@ -1,13 +1,6 @@
-// ExpLinear: an exponential decay on a straight line.
-//
-//   y = P1 e^(-x/P2) + P3 + P4 x
-//
-//   P1 amplitude, P2 decay length (unit of x; negative: growth), P3 intercept, P4 slope.
-//
-//   The value fails on an overflow of the exponential. P2 == 0 means no exponential: the value is the line
-//   alone and the call ends there (no derivatives, even when both were requested); on the derivative path the
-//   first two slots are 0. The derivative path never fails: after an overflow its numbers are infinite or
-//   undefined, the status is 0 and the error indicator stays set.
+// ExpLinear. With a decay length of 0 the value ends the call: no derivatives, even when both were requested;
+// on the derivative path the first two slots are 0. The derivative path never fails: after an overflow its
+// numbers are infinite or undefined, the status is 0 and the error indicator stays set.
 
 #include "protocol/forms.h"
 
@@ -33,8 +26,8 @@ Status derivatives(const Point& at) {
         y[1] = P[3] + P[4] * x[1];
         return success;
     }
-    const double e = safe_exp(-x[1] / P[2]);
-    const double decay = P[1] * e;
+    const Real e = safe_exp(-x[1] / P[2]);
+    const Real decay = P[1] * e;
     dyda[1] = e;
     dyda[2] = decay * x[1] / (P[2] * P[2]);
     y[1] = decay + P[3] + P[4] * x[1];
@@ -45,11 +38,13 @@ Status derivatives(const Point& at) {
 
 ANSATZ_MODEL(ExpLinear, BothPaths<value, derivatives>)
 
-ANSATZ_PAGE(ExpLinear, .title = "", .formula = "y = a exp(-x/t) + b + c x",
+ANSATZ_PAGE(ExpLinear, .title = "Exponential decay on a straight line", .formula = "y = a exp(-x/t) + b + c x",
             .parameters = {{"a", "amplitude of the decay at x = 0", Trait::amplitude},
-                           {"t", "decay length, unit of x; negative: growth", Trait::constant},
-                           {"b", "intercept of the line", Trait::constant},
+                           {"t", "decay length, unit of x; negative for growth", Trait::time, not_zero},
+                           {"b", "intercept of the line", Trait::offset},
                            {"c", "slope of the line", Trait::slope}},
-            .notes = "t = 0 stands for no exponential and cannot be left by a fit: do not start there.")
+            .typical = {{4, 1.5, 1, 0.3}, 0, 10},
+            .notes = "The value fails where the exponential overflows, the derivatives are infinite there. "
+                     "t = 0 stands for no exponential and cannot be left by a fit: do not start there.")
 
 } // namespace ansatz::exp_linear

@@ -1,12 +1,5 @@
-// Exponential: an exponential given by its rate.
-//
-//   y = P1 + P2 e^(P3 x)
-//
-//   P1 offset, P2 amplitude, the height above the offset at x = 0 (both unit of y), P3 rate (1 / unit of x;
-//   positive: growth, negative: decay).
-//
-//   Fails on an overflow of the exponential, even with an amplitude of 0. The value also fails where P3 x >
-//   1000, an overflow anyway unless P3 x is infinite: there the derivatives still answer, with infinities.
+// Exponential. The value also fails where k x > 1000, an overflow anyway unless k x is infinite: there the
+// derivatives still answer, with infinities.
 
 #include "protocol/forms.h"
 
@@ -15,7 +8,7 @@ namespace {
 
 Status value(const Point& at) {
     const auto [n, P, x, y, dyda] = at;
-    const double u = P[3] * x[1];
+    const Real u = P[3] * x[1];
     if (u > 1000) return fail(at);
     y[1] = safe_exp(u) * P[2] + P[1];
     return math_error() ? fail(at) : success;
@@ -23,7 +16,7 @@ Status value(const Point& at) {
 
 Status derivatives(const Point& at) {
     const auto [n, P, x, y, dyda] = at;
-    const double e = safe_exp(P[3] * x[1]);
+    const Real e = safe_exp(P[3] * x[1]);
     if (math_error()) return fail(at, 1, 2, 3);
     dyda[1] = 1;
     dyda[2] = e;
@@ -36,10 +29,12 @@ Status derivatives(const Point& at) {
 
 ANSATZ_MODEL(Exponential, BothPaths<value, derivatives>)
 
-ANSATZ_PAGE(Exponential, .title = "", .formula = "y = y0 + A exp(k x)",
+ANSATZ_PAGE(Exponential, .title = "Exponential growth or decay on an offset, by a rate",
+            .formula = "y = y0 + A exp(k x)",
             .parameters = {{"y0", "offset", Trait::offset},
                            {"A", "amplitude, height above the offset at x = 0", Trait::amplitude},
-                           {"k", "rate, 1/unit of x; positive: growth, negative: decay", Trait::rate}},
-            .notes = "Fails where the exponential overflows, for k x above 709.")
+                           {"k", "rate, 1/(unit of x); positive for growth, negative for decay", Trait::rate}},
+            .typical = {{1, 0.5, 0.3}, 0, 10}, .same_as = "ExpDec1(y0 = y0, A1 = A, t1 = -1/k)",
+            .notes = "Fails where the exponential overflows, for k x above 709, even with an amplitude of 0.")
 
 } // namespace ansatz::exponential

@@ -74,7 +74,8 @@ ANSATZ_PAGE(
     .block = {{"xc", "centre", Trait::position},
               {"w", "width, twice the standard deviation", Trait::width, positive},
               {"A", "area", Trait::area}},
-    .typical = {{0.2, 3, 1.5, 2, 6.5, 2, 4}, 0, 10}, .known_as = "normal distribution, bell curve, Gaussian",
+    .typical = {{0.2, 3, 1.5, 2, 6.5, 2, 4}, 0, 10}, .departures = {{4, "A = 0"}},
+    .known_as = "normal distribution, bell curve, Gaussian",
     .notes = "Fails for w = 0; the derivatives, and so a fit, fail for w < 0, where the value is a peak upside "
              "down. A peak of area 0 has no derivatives: do not start a fit there.")
 

@@ -1,40 +1,36 @@
-// Gaussian: a common offset and any number of Gaussian peaks, each given by its area and its width at half
-// maximum.
+// Gaussian. The constants have 14 and 15 digits; hosts rely on them.
 //
-//   y = P1 + sum over the peaks of  A / (w sqrt(pi / (4 ln 2))) e^(-4 ln 2 ((x - c)/w)^2)
+// Four parameters per peak, for peak 1 with the common offset P1 before it, for later peaks with an idle slot.
+// The number of peaks is nevertheless (nParams - 1) / 3: with nParams = 7 there are two peaks, and P8 is read.
+// y[k+1] is peak k alone, without the offset. The derivative by an idle slot is reported as 1.
 //
-//   Four parameters per peak: for peak 1 the common offset P1, for later peaks an idle slot; then centre c,
-//   area A, full width at half maximum w. The number of peaks is nevertheless (nParams - 1) / 3: with nParams =
-//   7 there are two peaks, and P8 is read. Supply four parameters for each peak that this count gives. y[k+1]
-//   is peak k alone, without the offset.
-//
-//   The value is computed by every call, also by one that requests nothing. Fails for a width of 0, with y[1]
-//   alone marked; a negative width turns the peak upside down. A peak of area 0 is skipped: nothing of it is
-//   written. The derivative by an idle slot is reported as 1.
+// The value is computed by every call, also by one that requests nothing. Fails for a width of 0, with y[1]
+// alone marked; a negative width turns the peak upside down. A peak of area 0 is skipped: nothing of it is
+// written.
 
 #include "protocol/forms.h"
 
 namespace ansatz::gaussian {
 namespace {
 
-constexpr double ln_2 = 0.69314718055994;
-constexpr double four_ln_2 = 2.77258872223978;
-constexpr double unit_area = 1.06446701943122; // sqrt(pi / (4 ln 2)), the area of a peak of width and height 1
+constexpr Scalar ln_2 = 0.69314718055994;
+constexpr Scalar four_ln_2 = 2.77258872223978;
+constexpr Scalar unit_area = 1.06446701943122; // sqrt(pi / (4 ln 2)), the area of a peak of width and height 1
 
 Status compute(const Point& at, bool derivatives) {
     const auto [n, P, x, y, dyda] = at;
-    double sum = P[1];
+    Real sum = P[1];
     const int peaks = (n - 1) / 3;
     for (int k = 1; k <= peaks; ++k) {
         const int first = 4 * k - 3, centre = 4 * k - 2, area = 4 * k - 1, width = 4 * k;
-        const double c = P[centre], A = P[area], w = P[width];
+        const Scalar c = P[centre], A = P[area], w = P[width];
         if (A == 0) continue;
         if (w == 0) return fail(at);
-        const double u = 2 * (x[1] - c) / w;
-        const double s = u * u * ln_2;
-        const double g = clamped_exp(-s) / (w * unit_area);
+        const Real u = 2 * (x[1] - c) / w;
+        const Real s = u * u * ln_2;
+        const Real g = clamped_exp(-s) / (w * unit_area);
         if (math_error()) return fail(at); // the exponential is the peak's only library call
-        const double peak = A * g;
+        const Real peak = A * g;
         y[k + 1] = peak;
         sum += peak;
         if (derivatives) {
@@ -60,15 +56,21 @@ struct Form {
 
 ANSATZ_MODEL(Gaussian, Form)
 
-ANSATZ_PAGE(Gaussian, .title = "", .formula = "y = y0 + A/(w sqrt(pi/(4 ln(2)))) exp(-4 ln(2) ((x - xc)/w)^2)",
+ANSATZ_PAGE(Gaussian, .title = "A Gaussian peak on an offset, by its area and its full width at half maximum",
+            .formula = "y = y0 + A/(w sqrt(pi/(4 ln(2)))) exp(-4 ln(2) ((x - xc)/w)^2)",
             .parameters = {{"y0", "offset", Trait::offset},
                            {"xc", "centre", Trait::position},
                            {"A", "area", Trait::area},
-                           {"w", "width, full at half maximum", Trait::width}},
-            .layout = {.lead = 1, .block = 3, .stride = 4, .counted = 3},
-            .notes = "One peak: mind the order, area before width. Fails for w = 0. A peak of area 0 has no "
-                     "derivatives: do not start a fit there. For several peaks take Gauss or GaussAmp; a "
-                     "program that calls this model with more parameters finds its peaks in blocks of four, of "
-                     "which the first is idle, although it counts one peak for every three.")
+                           {"w", "width, full at half maximum", Trait::width, positive}},
+            .layout = {.lead = 1, .block = 3, .stride = 4, .counted = 3}, .typical = {{0.2, 5, 4, 2}, 0, 10},
+            .departures = {{1, "A = 0"}, {2, "A = 0"}, {3, "A = 0"}, {4, "A = 0"}},
+            .same_as = "Gauss(y0 = y0, xc = xc, w = w/sqrt(2 ln(2)), A = A)",
+            .known_as = "normal distribution, bell curve",
+            .notes =
+                "One peak: mind the order, area before width. Fails for w = 0; a negative w turns the peak "
+                "upside down. A peak of area 0 has no derivatives: do not start a fit there. For several "
+                "peaks take Gauss or GaussAmp; a program that calls this model with more parameters finds "
+                "its peaks in blocks of four, of which the first is idle, although it counts one peak for "
+                "every three.")
 
 } // namespace ansatz::gaussian

@@ -1,23 +1,17 @@
-// Lorentz: a common offset and any number of Lorentzian peaks, each given by its area.
+// Lorentz. The number of peaks is (nParams - 1) / 3; parameters after the last whole peak are ignored.
 //
-//   y = P1 + sum over the peaks of  (2 A / pi) w / (4 (x - c)^2 + w^2)
-//
-//   P1 offset; then per peak three parameters: centre c, width w (full width at half maximum), area A.
-//   The number of peaks is (nParams - 1) / 3; parameters behind the last whole peak are ignored.
-//   y[i+1] is peak i alone, without the offset.
-//
-//   Fails for nParams <= 0. The value fails for P3 <= 0, the width of the first peak, and where a peak's
-//   denominator is 0; later widths may be negative, which turns the peak upside down. The derivatives test one
-//   width only, see Form; a zero width further on divides by zero. No library function is called, so a pending
-//   error passes through unseen.
+// Fails for nParams <= 0. The value fails for P3 <= 0, the width of the first peak, and where a peak's
+// denominator is 0; later widths may be negative, which turns the peak upside down. The derivatives test one
+// width only, see Form; a zero width further on divides by zero. No library function is called, so a pending
+// error passes through unseen.
 
 #include "protocol/forms.h"
 
 namespace ansatz::lorentz {
 namespace {
 
-constexpr double pi = 3.141592653589793;
-constexpr double two_pi = 6.283185307179586;
+constexpr Scalar pi = 3.141592653589793;
+constexpr Scalar two_pi = 6.283185307179586;
 
 /// A width that the host did not supply passes every test.
 bool supplied(const Point& at, int slot) {
@@ -28,13 +22,14 @@ Status value(const Point& at) {
     const auto [n, P, x, y, dyda] = at;
     if (n <= 0) return fail(at);
     if (supplied(at, 3) && P[3] <= 0) return fail(at);
-    double sum = P[1];
+    Real sum = P[1];
     const int peaks = (n - 1) / 3;
     for (int i = 1; i <= peaks; ++i) {
-        const double d = x[1] - P[3 * i - 1], w = P[3 * i], A = P[3 * i + 1];
-        const double den = d * (d * 4) + w * w;
+        const Scalar c = P[3 * i - 1], w = P[3 * i], A = P[3 * i + 1];
+        const Real d = x[1] - c;
+        const Real den = d * (d * 4) + w * w;
         if (den == 0) return fail(at);
-        const double peak = 2 * A / pi * (w / den);
+        const Real peak = 2 * A / pi * (w / den);
         y[i + 1] = peak;
         sum += peak;
     }
@@ -49,14 +44,14 @@ Status derivatives(const Point& at, int summed) {
     const int tested = 3 * summed + 3;
     if (supplied(at, tested) && !(P[tested] > 0)) return fail(at, 1, tested - 1, tested, tested + 1);
     dyda[1] = 1;
-    double sum = P[1];
+    Real sum = P[1];
     const int peaks = (n - 1) / 3;
     for (int i = 1; i <= peaks; ++i) {
         const int centre = 3 * i - 1, width = 3 * i, area = 3 * i + 1;
-        const double w = P[width];
-        const double u = (x[1] - P[centre]) * 2 / w;
-        const double q = 2 / ((u * u + 1) * (w * pi));
-        const double peak = q * P[area];
+        const Scalar w = P[width];
+        const Real u = (x[1] - P[centre]) * 2 / w;
+        const Real q = 2 / ((u * u + 1) * (w * pi));
+        const Real peak = q * P[area];
         dyda[area] = q;
         dyda[centre] = q * (u * two_pi * peak);
         dyda[width] = (u * (w * pi * u) * q - 1) * peak / w;
@@ -67,8 +62,8 @@ Status derivatives(const Point& at, int summed) {
     return success;
 }
 
-/// Form D, but for the width that the derivatives test: the first peak's when they are requested alone, and the
-/// one behind the last peak when a value pass came before, if the host supplied that many parameters.
+/// BothPaths, but for the width that the derivatives test: the first peak's when they are requested alone, and
+/// the one after the last peak when a value pass came before, if the host supplied that many parameters.
 struct Form {
     static Status serve(unsigned flags, const Point& at) {
         if (flags & FF_PROBE) return answer_probe(at);
@@ -85,12 +80,15 @@ struct Form {
 
 ANSATZ_MODEL(Lorentz, Form)
 
-ANSATZ_PAGE(Lorentz, .title = "", .formula = "y = y0 + sum 2 A w/(pi (4 (x - xc)^2 + w^2))",
+ANSATZ_PAGE(Lorentz, .title = "Lorentzian peaks on a common offset, each by its area",
+            .formula = "y = y0 + sum 2 A w/(pi (4 (x - xc)^2 + w^2))",
             .parameters = {{"y0", "offset", Trait::offset}},
             .block = {{"xc", "centre", Trait::position},
-                      {"w", "width, full at half maximum", Trait::width},
+                      {"w", "width, full at half maximum", Trait::width, positive},
                       {"A", "area", Trait::area}},
+            .typical = {{0.2, 3, 1, 2, 6.5, 1.5, 4}, 0, 10},
+            .known_as = "Cauchy distribution, Breit-Wigner distribution",
             .notes = "Fails for w <= 0 of the first peak. Further widths may be negative, which turns the peak "
-                     "upside down: bound them from below.")
+                     "upside down, and give no numbers where they are 0.")
 
 } // namespace ansatz::lorentz
