@@ -112,7 +112,7 @@ std::size_t run_by_wide_row(Loop loop, Job job, std::ptrdiff_t points) {
 const AnsatzBatchModel* ANSATZ_CALL ansatz_batch_find(const char* name) {
     if (!name) return nullptr;
     for (const AnsatzBatchModel& model : ansatz::batch::models) {
-        if (ansatz::same_name(model.name, name)) return &model;
+        if (ansatz::equal_ignoring_case(model.name, name)) return &model;
     }
     return nullptr;
 }

@@ -125,7 +125,7 @@ def latex(formula):
 def include(pages):
     yield "// The models' formulas as LaTeX. Written by pages/latex.py from the pages: change those instead."
     for page in pages:
-        if page["formula"]:
+        if not page["reserved"]:
             yield '{"%s", "%s"},' % (page["name"], latex(Formula.of_page(page)).replace("\\", "\\\\"))
 
 
@@ -136,7 +136,7 @@ def main(arguments):
     if not checking:
         target.write_text(text)
     elif not target.exists() or target.read_text() != text:
-        sys.exit("out of date: %s; run pages/latex.py" % target)
+        sys.exit("out of date: %s; run scripts/pages" % target)
 
 
 if __name__ == "__main__":

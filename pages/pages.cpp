@@ -1,25 +1,21 @@
 // The pages of all rows, and the search for one.
 
+#include "catalogue/name.h"
+
 #include <ansatz/page.hpp>
 
+#include <iterator>
 #include <string>
+#include <utility>
 #include <vector>
 
 #define ENTRY(name, nIndep, nDep, nParams, routine) extern "C" const ansatz::Page ansatz_page_##name;
 #include "catalogue/models.inc"
 
 namespace ansatz {
-namespace {
-
-bool same_letter(char a, char b) {
-    const auto folded = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
-    return folded(a) == folded(b);
-}
-
-} // namespace
 
 bool same_name(std::string_view a, std::string_view b) {
-    return std::ranges::equal(a, b, same_letter);
+    return equal_ignoring_case(a, b);
 }
 
 std::string_view trait_name(Trait trait) {
@@ -70,12 +66,22 @@ const Page* find_page(std::string_view name) {
     return found == all.end() ? nullptr : &*found;
 }
 
+std::string_view latex(const Page& page) {
+    static constexpr std::pair<std::string_view, std::string_view> formulas[] = {
+#include "latex.inc"
+        {"", ""}};
+    const auto found =
+        std::ranges::find(formulas, page.name, [](const auto& formula) { return formula.first; });
+    return found == std::end(formulas) ? std::string_view{} : found->second;
+}
+
 std::span<const std::string_view> families() {
     static const std::vector<std::string_view> all = [] {
         std::vector<std::string_view> names;
         for (const Page& page : pages()) {
             if (std::ranges::find(names, page.family) == names.end()) names.push_back(page.family);
         }
+        std::ranges::sort(names);
         return names;
     }();
     return all;

@@ -156,8 +156,7 @@ TEST(Families, HaveTheSameModelsAmongTheLawsAndTheCases) {
     EXPECT_EQ(differences, std::vector<std::string>());
 }
 
-// Disabled until src/models is sorted by these families.
-TEST(Families, DISABLED_AreTheFoldersOfTheModels) {
+TEST(Families, AreTheFoldersOfTheModels) {
     std::set<std::string> families, folders;
     for (const GoldenRow& row : golden_rows()) families.insert(row.family);
     for (const auto& entry : std::filesystem::directory_iterator(ANSATZ_TEST_DATA "/../src/models")) {

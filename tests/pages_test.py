@@ -88,7 +88,7 @@ class Pages(unittest.TestCase):
                 symbols = [p["symbol"] for p in page["parameters"] + page["block"]]
                 self.assertEqual(list(given), [p["symbol"] for p in other["parameters"] + other["block"]])
                 parameters, points = typical(page, blocks=1)
-                mapped = [Formula("y = " + text, symbols, inputs=9).evaluate(parameters, [0] * 9)["y"]
+                mapped = [Formula("y = " + text, symbols).evaluate(parameters, [0])["y"]
                           for text in given.values()]
                 for x in points:
                     here, there = Formula.of_page(page).evaluate(parameters, x), Formula.of_page(other).evaluate(mapped, x)

@@ -1,6 +1,8 @@
 // The subcommands. Each returns the exit status and throws host::Error for what it cannot work with.
 #pragma once
 
+#include <ansatz/host/error.hpp>
+
 #include <string>
 #include <vector>
 
@@ -8,6 +10,12 @@ namespace ansatz::tools {
 
 /// Exit statuses.
 enum : int { done = 0, failed = 1, usage = 2 };
+
+/// The request was right and could not be carried out: the exit status is `failed`.
+class Failure : public host::Error {
+public:
+    using Error::Error;
+};
 
 struct ListOptions {
     std::string pattern;

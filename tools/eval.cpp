@@ -62,7 +62,7 @@ int eval(const EvalOptions& options) {
         Json parameters = Json::object();
         for (std::size_t k = 0; k < slots.size(); ++k) parameters[slots[k].symbol] = values[k];
         fmt::print("{}\n",
-                   Json{{"model", model.name()}, {"parameters", parameters}, {"points", points}}.dump(2));
+                   json_text({{"model", model.name()}, {"parameters", parameters}, {"points", points}}));
     } else {
         std::vector<std::pair<std::string, Align>> header;
         for (const std::string& name : names) header.emplace_back(name, Align::right);

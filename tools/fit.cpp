@@ -7,6 +7,7 @@
 
 #include <ansatz/host/fit.hpp>
 #include <ansatz/host/table.hpp>
+#include <ansatz/host/text.hpp>
 
 #include <fmt/format.h>
 #include <fmt/ranges.h>
@@ -146,15 +147,15 @@ std::string scatter_remark(const host::Data& data, const host::Fit& fit,
     return fmt::format(
         "{} scatters {:.0f} times as much as {}, and the fit takes both as equally good: the standard "
         "errors\nmislead. Give --errors or --weights for each of the two columns.\n\n",
-        columns[first ? 0 : 1], high / low, columns[first ? 1 : 0]);
+        host::printable(columns[first ? 0 : 1]), high / low, host::printable(columns[first ? 1 : 0]));
 }
 
 void print_text(const host::Model& model, const host::Fit& fit, const std::string& source,
                 const std::string& scatter) {
     fmt::print("{}", model.name());
     if (model.page()) fmt::print(":  {}", model.page()->formula);
-    fmt::print("\n{} points from {}; {} after {} iterations{}\n\n", fit.points, source, fit.termination,
-               fit.iterations, fit.numerical ? ", derivatives by differences" : "");
+    fmt::print("\n{} points from {}; {} after {} iterations{}\n\n", fit.points, host::printable(source),
+               fit.termination, fit.iterations, fit.numerical ? ", derivatives by differences" : "");
 
     TextTable table({{"", Align::left},
                      {"symbol", Align::left},
@@ -292,7 +293,7 @@ int fit(const FitCommandOptions& options) {
     if (isatty(STDERR_FILENO) != 0 && result.seconds > 1) fmt::print(stderr, "\r\x1b[K");
 
     if (options.json) {
-        fmt::print("{}\n", fit_json(model, table, columns, start, result, source).dump(2));
+        fmt::print("{}\n", json_text(fit_json(model, table, columns, start, result, source)));
     } else {
         print_text(model, result, source, scatter_remark(data, result, names(table, columns.y)));
     }

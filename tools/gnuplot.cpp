@@ -1,17 +1,20 @@
 #include "gnuplot.hpp"
 
-#include <ansatz/host/error.hpp>
+#include "commands.hpp"
+#include "files.hpp"
+#include "process.hpp"
+
+#include <ansatz/host/text.hpp>
 
 #include <fmt/format.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <cmath>
-#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <sstream>
+#include <system_error>
+#include <utility>
 
 namespace ansatz::tools::gnuplot {
 namespace {
@@ -24,14 +27,67 @@ std::string extension(const std::string& file) {
     return text;
 }
 
-bool on_path(const std::string& program) {
-    const char* path = std::getenv("PATH"); // NOLINT(concurrency-mt-unsafe): the command has one thread
-    std::istringstream directories(path ? path : "");
-    for (std::string directory; std::getline(directories, directory, ':');) {
-        directory.append("/").append(program);
-        if (access(directory.c_str(), X_OK) == 0) return true;
+bool is_svg(const std::string& file) {
+    return extension(file) == ".svg";
+}
+
+void replace_all(std::string& text, std::string_view old, std::string_view by) {
+    for (auto at = text.find(old); at != std::string::npos; at = text.find(old, at + by.size())) {
+        text.replace(at, old.size(), by);
     }
-    return false;
+}
+
+/// Bytes in a gnuplot string.
+std::string octal(std::string_view bytes) {
+    std::string result;
+    for (const char c : bytes) result += fmt::format("\\{:03o}", static_cast<unsigned char>(c));
+    return result;
+}
+
+/// The characters that mean something to XML. gnuplot escapes some of them, and never those that look like XML
+/// already; so in an SVG it gets noncharacters in their place, which no text of quoted() contains.
+constexpr struct {
+    std::string_view character, stand_in, entity;
+} xml_characters[] = {
+    {"&", "\xef\xb7\x90", "&amp;"}, {"<", "\xef\xb7\x91", "&lt;"}, {">", "\xef\xb7\x92", "&gt;"}};
+
+bool is_complete(std::string_view picture, bool svg) {
+    if (!svg) return picture.starts_with("\x89PNG") && picture.ends_with("IEND\xae\x42\x60\x82");
+    const auto last = picture.find_last_not_of("\r\n");
+    return last != std::string_view::npos && picture.substr(0, last + 1).ends_with("</svg>");
+}
+
+/// The line of gnuplot's messages that tells most: in front of it come blank ones and a copy of the script.
+std::string complaint(const std::string& messages) {
+    std::istringstream lines(messages);
+    std::string first;
+    for (std::string line; std::getline(lines, line);) {
+        line.erase(0, line.find_first_not_of(" \t\r"));
+        if (line.starts_with("line ")) return line;
+        if (first.empty()) first = line;
+    }
+    return first;
+}
+
+[[noreturn]] void fail(const std::string& file, const std::string& why) {
+    throw Failure(fmt::format("--plot: gnuplot could not draw '{}': {}", file, why));
+}
+
+std::string drawn(const std::string& script, const std::string& file) {
+    setenv("LC_ALL", "C.UTF-8", 1); // gnuplot's: its texts are UTF-8 whatever the user's locale
+    Ended gnuplot{};
+    try {
+        gnuplot = run_program(find_program("gnuplot"), {"gnuplot", "--default-settings"}, script);
+    } catch (const std::system_error& error) {
+        fail(file, error.what());
+    }
+    const std::string message = complaint(gnuplot.errors);
+    if (!gnuplot.well()) fail(file, message.empty() ? gnuplot.how() : message);
+    if (!is_complete(gnuplot.output, is_svg(file))) {
+        fail(file, message.empty() ? "the picture is not complete" : message);
+    }
+    if (!message.empty()) fmt::print(stderr, "ansatz: gnuplot says: {}\n", host::printable(message));
+    return std::move(gnuplot.output);
 }
 
 /// The largest of 1, 2 and 5 times a power of ten that does not exceed the number.
@@ -50,29 +106,29 @@ void require_writable(const std::string& file) {
     if (kind != ".svg" && kind != ".png") {
         throw Error(fmt::format("--plot: '{}' must end in .svg or .png", file));
     }
-    const auto directory = std::filesystem::path(file).parent_path();
-    if (access(directory.empty() ? "." : directory.c_str(), W_OK) != 0) {
-        throw Error(fmt::format("--plot: cannot write '{}'", file));
-    }
-    if (!on_path("gnuplot")) throw Error("--plot needs gnuplot, which is not installed");
+    if (!is_replaceable(file)) throw Error(fmt::format("--plot: cannot write '{}'", file));
+    if (find_program("gnuplot").empty()) throw Error("--plot needs gnuplot, which is not installed");
 }
 
 std::string quoted(const std::string& text) {
-    std::string result = "'";
-    for (const char c : text) result += c == '\'' ? std::string("''") : std::string(1, c);
-    return result + "'";
+    std::string result = "\"";
+    for (const char c : host::drawable(text)) {
+        const bool plain = c == ' ' || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+        result += plain ? std::string(1, c) : octal({&c, 1});
+    }
+    return result + '"';
 }
 
 std::string head(const std::string& file, int width, int height) {
     const std::string terminal =
-        extension(file) == ".svg" ? fmt::format("svg noenhanced size {},{} font 'Helvetica,15'", width, height)
-                                  : fmt::format("pngcairo noenhanced size {},{} font 'Sans,21' linewidth 1.6",
-                                                width * 5 / 3, height * 5 / 3);
-    return fmt::format("set terminal {0} background '#ffffff'\nset output {1}\n"
-                       "set border 3 linecolor rgb '{2}'\nset tics nomirror out scale 0.6 textcolor rgb '{2}'\n"
-                       "set grid linecolor rgb '{3}' linetype 1 linewidth 0.7\n"
+        is_svg(file) ? fmt::format("svg noenhanced size {},{} font 'Helvetica,15'", width, height)
+                     : fmt::format("pngcairo noenhanced size {},{} font 'Sans,21' linewidth 1.6", width * 5 / 3,
+                                   height * 5 / 3);
+    return fmt::format("set encoding utf8\nset terminal {0} background '#ffffff'\n"
+                       "set border 3 linecolor rgb '{1}'\nset tics nomirror out scale 0.6 textcolor rgb '{1}'\n"
+                       "set grid linecolor rgb '{2}' linetype 1 linewidth 0.7\n"
                        "set key top right samplen 2 spacing 1.2\n",
-                       terminal, quoted(file), ink, grid);
+                       terminal, ink, grid);
 }
 
 std::string block(std::string_view name, const Eigen::MatrixXd& rows, Eigen::Index scan) {
@@ -165,13 +221,19 @@ std::vector<std::string> residual_layers(std::string_view block, bool bars) {
     return layers;
 }
 
-void run(const std::string& script, const std::string& file) {
-    std::FILE* pipe = popen("gnuplot", "w");
-    if (!pipe) throw Error("--plot: gnuplot cannot be started");
-    std::fwrite(script.data(), 1, script.size(), pipe);
-    const int status = pclose(pipe);
-    if (!WIFEXITED(status) || WEXITSTATUS(status) != 0) {
-        throw Error(fmt::format("--plot: gnuplot could not draw '{}'", file));
+void run(std::string script, const std::string& file) {
+    const bool svg = is_svg(file);
+    for (const auto& [character, stand_in, entity] : xml_characters) {
+        if (svg) replace_all(script, octal(character), octal(stand_in));
+    }
+    std::string picture = drawn(script, file);
+    for (const auto& [character, stand_in, entity] : xml_characters) {
+        if (svg) replace_all(picture, stand_in, entity);
+    }
+    try {
+        replace_file(file, picture);
+    } catch (const std::system_error& error) {
+        throw Failure(fmt::format("--plot: cannot write '{}': {}", file, error.what()));
     }
 }
 

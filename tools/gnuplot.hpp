@@ -18,10 +18,13 @@ constexpr const char* curve_colour = "#d55e00";
 /// Throws host::Error unless gnuplot can write a picture to this file.
 void require_writable(const std::string& file);
 
-/// A string in single quotes.
+/// Text as a gnuplot string that shows exactly it, as far as it can be drawn. Bytes other than letters and
+/// blanks are written as \ooo: whatever the text, gnuplot finds nothing in it to interpret or to run. (A digit
+/// behind \ooo would be read as part of it.)
 std::string quoted(const std::string& text);
 
-/// The beginning of a script: a white picture of about this size, with thin axes and a light grid.
+/// The beginning of a script: a white picture of the file's kind and about this size, with thin axes and a
+/// light grid.
 std::string head(const std::string& file, int width, int height);
 
 /// A named block of data, with a blank line behind every `scan` rows if that is not 0. What is not finite
@@ -63,7 +66,7 @@ std::string residual_axes(double largest, const std::string& label);
 /// The layers of residuals: columns 1, 2 and, for error bars, 3 of a block.
 std::vector<std::string> residual_layers(std::string_view block, bool bars);
 
-/// Runs gnuplot on a script that writes this file. Throws host::Error.
-void run(const std::string& script, const std::string& file);
+/// Runs gnuplot on a script that draws, and writes the picture to this file. Throws Failure.
+void run(std::string script, const std::string& file);
 
 } // namespace ansatz::tools::gnuplot

@@ -62,7 +62,7 @@ int list(const ListOptions& options) {
         fmt::print("{}{}\n{}", first ? "" : "\n", family_title(family), table.text());
         first = false;
     }
-    if (options.json) fmt::print("{}\n", json.dump(2));
+    if (options.json) fmt::print("{}\n", json_text(json));
     return done;
 }
 

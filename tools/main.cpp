@@ -4,6 +4,7 @@
 #include "commands.hpp"
 
 #include <ansatz/host/error.hpp>
+#include <ansatz/host/text.hpp>
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
@@ -15,9 +16,10 @@
 namespace {
 
 using namespace ansatz::tools;
+using ansatz::host::printable;
 
 constexpr const char* status_text = R"(
-Exit status: 0 success, 1 a fit or an evaluation failed, 2 wrong usage or input.)";
+Exit status: 0 success, 1 a fit, an evaluation or a picture failed, 2 wrong usage or input.)";
 
 constexpr const char* main_footer = R"(
 Examples:
@@ -69,7 +71,7 @@ Examples:
   ansatz fit Circle points.csv --start 0,0,1       (an implicit curve has no y column)
   zcat data.gz | ansatz fit Lorentz - --start -1,2,0.5,3
 
-Exit status: 0 success, 1 the fit failed or did not converge, 2 wrong usage or input.)";
+Exit status: 0 success, 1 the fit or the picture failed, or the fit did not converge, 2 wrong usage or input.)";
 
 int run(const std::vector<std::string>& arguments) {
     CLI::App app{"Ansatz: model functions for curve and surface fitting.", "ansatz"};
@@ -157,7 +159,7 @@ int run(const std::vector<std::string>& arguments) {
         std::ranges::none_of(app.get_subcommands({}),
                              [&](const CLI::App* c) { return c->get_name() == arguments[0]; })) {
         fmt::print(stderr, "ansatz: unknown command '{}'; the commands are list, show, eval and fit\n",
-                   arguments[0]);
+                   printable(arguments[0]));
         return usage;
     }
     try {
@@ -168,7 +170,7 @@ int run(const std::vector<std::string>& arguments) {
         if (error.get_exit_code() == 0) return app.exit(error); // help and version
         const auto chosen = app.get_subcommands();
         const std::string name = chosen.empty() ? "ansatz" : "ansatz " + chosen.front()->get_name();
-        fmt::print(stderr, "ansatz: {}; see {} --help\n", error.what(), name);
+        fmt::print(stderr, "ansatz: {}; see {} --help\n", printable(error.what()), name);
         return usage;
     }
     return command();
@@ -182,10 +184,13 @@ int main(int argc, char** argv) {
     } catch (const ansatz::host::FitError& error) {
         fmt::print(stderr, "ansatz: {}\n", error.what());
         return failed;
+    } catch (const Failure& error) {
+        fmt::print(stderr, "ansatz: {}\n", error.what());
+        return failed;
     } catch (const ansatz::host::Error& error) {
         fmt::print(stderr, "ansatz: {}\n", error.what());
     } catch (const std::exception& error) {
-        fmt::print(stderr, "ansatz: unexpected failure: {}\n", error.what());
+        fmt::print(stderr, "ansatz: unexpected failure: {}\n", printable(error.what()));
     }
     return usage;
 }

@@ -41,6 +41,10 @@ std::string TextTable::text(std::string_view indent) const {
     return result;
 }
 
+std::string json_text(const Json& json) {
+    return json.dump(2, ' ', true, Json::error_handler_t::replace);
+}
+
 namespace {
 
 /// A bound, or null where there is none.
@@ -97,6 +101,7 @@ Json describe_json(const host::Model& model) {
                  {"reserved", model.reserved()}};
     if (!page.reserved) {
         json["formula"] = page.formula;
+        json["latex"] = latex(page);
         json["parameters"] = parameters_json(page.parameters);
         json["block"] = parameters_json(page.block);
         json["block_name"] = page.block_name;

@@ -26,6 +26,9 @@ private:
     std::vector<std::vector<std::string>> rows_;
 };
 
+/// JSON in ASCII, so that no terminal takes a name in it for a command; bytes that are not UTF-8 become U+FFFD.
+std::string json_text(const Json& json);
+
 /// Name, family, dimensions, formula, parameters and notes.
 Json describe_json(const host::Model& model);
 

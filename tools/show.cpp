@@ -25,7 +25,7 @@ std::string wrapped(std::string_view text, std::size_t width = 96) {
 int show(const ShowOptions& options) {
     const host::Model model = host::Model::find(options.model);
     if (options.json) {
-        fmt::print("{}\n", describe_json(model).dump(2));
+        fmt::print("{}\n", json_text(describe_json(model)));
         return done;
     }
     const Page* text = model.page();

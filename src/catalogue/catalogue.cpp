@@ -12,7 +12,7 @@ extern const FunctionEntry FunctionCatalogue[catalogue_size] = {
 
 const FunctionEntry* find_row(const char* name) {
     for (const FunctionEntry& row : FunctionCatalogue) {
-        if (same_name(row.name, name)) return &row;
+        if (equal_ignoring_case(row.name, name)) return &row;
     }
     return nullptr;
 }

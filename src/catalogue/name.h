@@ -6,23 +6,20 @@
 #include <windows.h>
 #endif
 
+#include <algorithm>
+#include <string_view>
+
 namespace ansatz {
 
 #ifdef _WIN32
-inline bool same_name(const char* a, const char* b) {
+inline bool equal_ignoring_case(const char* a, const char* b) {
     return lstrcmpiA(a, b) == 0;
 }
 #else
-constexpr char folded(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-/// In any mix of upper and lower case.
-constexpr bool same_name(const char* a, const char* b) {
-    for (; folded(*a) == folded(*b); ++a, ++b) {
-        if (*a == '\0') return true;
-    }
-    return false;
+/// Do two names agree in any mix of upper and lower case?
+constexpr bool equal_ignoring_case(std::string_view a, std::string_view b) {
+    const auto folded = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
+    return std::ranges::equal(a, b, {}, folded, folded);
 }
 #endif
 

@@ -11,24 +11,25 @@ namespace ansatz {
 /// x and both references are positive. `span`, the divisor, is 0 for equal references and for b == 0; the
 /// caller looks at it, and at the error indicator.
 struct PowerScale {
-    double at_x, at_first, at_second; ///< the powers
-    double span;
-    double place;
+    Real at_x;                  ///< x^b
+    Scalar at_first, at_second; ///< the same of the references
+    Scalar span;
+    Real place;
 
-    PowerScale(double x, double first, double second, double b)
+    PowerScale(Real x, Scalar first, Scalar second, Scalar b)
         : at_x(safe_pow(x, b)), at_first(of_parameters<safe_pow>(first, b)),
           at_second(of_parameters<safe_pow>(second, b)), span(at_second - at_first),
           place((at_x - at_first) / span) {}
 
     /// 1 - place, without the cancellation near the second reference.
-    double rest() const { return (at_second - at_x) / span; }
+    Real rest() const { return (at_second - at_x) / span; }
 
     /// Partial derivatives of place.
     struct Slopes {
-        double by_first, by_second, by_b;
+        Real by_first, by_second, by_b;
     };
-    Slopes slopes(double x, double first, double second, double b) const {
-        const double near_first = rest() * at_first / span, near_second = place * at_second / span;
+    Slopes slopes(Real x, Scalar first, Scalar second, Scalar b) const {
+        const Real near_first = rest() * at_first / span, near_second = place * at_second / span;
         return {-near_first * b / first, -near_second * b / second,
                 near_first * log(x / first) + near_second * log(x / second)};
     }

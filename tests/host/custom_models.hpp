@@ -71,10 +71,11 @@ CUSTOM_ROUTINE(circle_routine) {
     return 0;
 }
 inline Model circle() {
-    static const Page text{
-        .formula = "((x1 - xc)/r)^2 + ((x2 - yc)/r)^2 = 1",
-        .parameters = {{"xc", "", Trait::position}, {"yc", "", Trait::position}, {"r", "radius", Trait::width}},
-        .implicit = true};
+    static const Page text{.formula = "0 = ((x1 - xc)/r)^2 + ((x2 - yc)/r)^2 - 1",
+                           .implicit = true,
+                           .parameters = {{"xc", "", Trait::position},
+                                          {"yc", "", Trait::position},
+                                          {"r", "radius", Trait::width}}};
     return Model::custom("circle", circle_routine, 2, 1, 3, &text);
 }
 

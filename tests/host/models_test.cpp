@@ -53,7 +53,7 @@ TEST(Names, UnknownOnesComeWithTheNearest) {
 }
 
 TEST(Pages, AgreeWithTheCatalogue) {
-    for (const Page& page : pages()) {
+    for (const ansatz::Page& page : ansatz::pages()) {
         const Model model = Model::find(page.name);
         EXPECT_EQ(model.name(), page.name);
         EXPECT_EQ(model.page(), &page);

@@ -235,7 +235,10 @@ const Page* find_page(std::string_view name);
 /// Do two names agree in any mix of upper and lower case?
 bool same_name(std::string_view a, std::string_view b);
 
-/// The families, as pages name them.
+/// The formula as LaTeX, of what amsmath and the web have in common; empty for a reserved name.
+std::string_view latex(const Page& page);
+
+/// The families, as pages name them, in alphabetical order.
 std::span<const std::string_view> families();
 
 /// A family's title for readers: "asymmetric_peaks" becomes "Asymmetric peaks".

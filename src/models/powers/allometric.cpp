@@ -1,17 +1,10 @@
-// Allometric1, Allometric2: the power law of growth and form, without and with an offset.
-//
-//   Allometric1   y = P1 x^P2             P1 scale (value at x = 1), P2 exponent
-//   Allometric2   y = P1 + P2 x^P3        P1 offset, P2 scale, P3 exponent
-//
-//   Both fail for x <= 0, also with a scale of 0, and on a range error of the power. A scale of 0 gives the
-//   value 0 (P1 in Allometric2) without a power, and the call ends there: no derivatives, even when both were
-//   requested; ask for the derivatives alone.
+// A scale of 0 gives the value 0 (the offset in Allometric2) without a power, and the call ends there: no
+// derivatives, even when both were requested. x <= 0 fails also then.
 
 #include "protocol/forms.h"
 
-namespace ansatz {
+namespace ansatz::allometric1 {
 namespace {
-namespace allometric1 {
 
 Status value(const Point& at) {
     const auto [n, P, x, y, dyda] = at;
@@ -27,18 +20,29 @@ Status value(const Point& at) {
 Status derivatives(const Point& at) {
     const auto [n, P, x, y, dyda] = at;
     if (x[1] <= 0) return fail(at, 1, 2);
-    const double w = safe_pow(x[1], P[2]);
+    const Real w = safe_pow(x[1], P[2]);
     if (math_error()) return fail(at, 1, 2);
-    const double scaled = P[1] * w;
+    const Real scaled = P[1] * w;
     dyda[1] = w;
     y[1] = scaled;
     dyda[2] = scaled * log(x[1]); // an error here would leave y[1] standing
     return math_error() ? fail_slots(at, 2) : success;
 }
 
-} // namespace allometric1
+} // namespace
 
-namespace allometric2 {
+ANSATZ_MODEL(Allometric1, BothPaths<value, derivatives>)
+
+ANSATZ_PAGE(Allometric1, .title = "Power law", .formula = "y = a x^b",
+            .parameters = {{"a", "y at x = 1", Trait::level}, {"b", "exponent", Trait::exponent}},
+            .x = {positive}, .typical = {{2, 0.6}, 0.05, 10}, .scales = Scales::y_only,
+            .known_as = "allometric growth", .source = "Huxley, 1924",
+            .notes = "Fails for x <= 0: leave out a point at x = 0.")
+
+} // namespace ansatz::allometric1
+
+namespace ansatz::allometric2 {
+namespace {
 
 Status value(const Point& at) {
     const auto [n, P, x, y, dyda] = at;
@@ -55,9 +59,9 @@ Status derivatives(const Point& at) {
     const auto [n, P, x, y, dyda] = at;
     if (x[1] <= 0) return fail(at, 1, 2, 3);
     dyda[1] = 1;
-    const double w = safe_pow(x[1], P[3]);
+    const Real w = safe_pow(x[1], P[3]);
     if (math_error()) return fail(at, 2, 3);
-    const double scaled = P[2] * w;
+    const Real scaled = P[2] * w;
     dyda[2] = w;
     y[1] = scaled;
     dyda[3] = scaled * log(x[1]); // an error here would leave y[1] without the offset
@@ -66,21 +70,16 @@ Status derivatives(const Point& at) {
     return success;
 }
 
-} // namespace allometric2
 } // namespace
 
-ANSATZ_MODEL(Allometric1, BothPaths<allometric1::value, allometric1::derivatives>)
+ANSATZ_MODEL(Allometric2, BothPaths<value, derivatives>)
 
-ANSATZ_PAGE(Allometric1, .title = "", .formula = "y = a x^b",
-            .parameters = {{"a", "scale: y at x = 1", Trait::constant}, {"b", "exponent", Trait::exponent}},
-            .notes = "Fails for x <= 0: leave out a point at x = 0.")
-
-ANSATZ_MODEL(Allometric2, BothPaths<allometric2::value, allometric2::derivatives>)
-
-ANSATZ_PAGE(Allometric2, .title = "", .formula = "y = a + b x^c",
+ANSATZ_PAGE(Allometric2, .title = "Power law with an offset", .formula = "y = a + b x^c",
             .parameters = {{"a", "offset", Trait::offset},
-                           {"b", "scale: y - a at x = 1", Trait::constant},
+                           {"b", "amplitude: y - a at x = 1", Trait::amplitude},
                            {"c", "exponent", Trait::exponent}},
-            .notes = "Fails for x <= 0: leave out a point at x = 0.")
+            .x = {positive}, .typical = {{1, 0.3, 1.7}, 0.05, 6}, .scales = Scales::y_only,
+            .notes = "Fails for x <= 0: leave out a point at x = 0. With c close to 0 the power term is hard "
+                     "to tell from the offset.")
 
-} // namespace ansatz
+} // namespace ansatz::allometric2

@@ -1,11 +1,4 @@
-// Cole: a power of one variable, scaled by a straight line in a second one.
-//
-//   y = x1^P1 (P2 + P3 x2)
-//
-//   P1 exponent, P2 and P3 intercept and slope of the scale in x[2].
-//
-//   Fails on an error of the power alone: x1 == 0 with P1 < 0, x1 < 0 with a broken exponent, overflow. Where
-//   the line is exactly 0 the value is 0 and no power is taken. Values only: a derivative request is ignored.
+// Where the line is exactly 0 the value is 0 and no power is taken.
 
 #include "protocol/forms.h"
 
@@ -14,7 +7,7 @@ namespace {
 
 Status value(const Point& at) {
     const auto [n, P, x, y, dyda] = at;
-    const double line = P[2] + P[3] * x[2];
+    const Real line = P[2] + P[3] * x[2];
     if (line == 0) {
         y[1] = 0;
         return success;
@@ -27,10 +20,14 @@ Status value(const Point& at) {
 
 ANSATZ_MODEL(Cole, ValueOrNothing<value>)
 
-ANSATZ_PAGE(Cole, .title = "", .formula = "y = x1^a (b + c x2)",
+ANSATZ_PAGE(Cole, .title = "Power of one variable, scaled by a straight line in the other",
+            .formula = "y = x1^a (b + c x2)",
             .parameters = {{"a", "exponent of x1", Trait::exponent},
-                           {"b", "scale at x2 = 0", Trait::constant},
-                           {"c", "change of the scale per unit of x2", Trait::constant}},
-            .notes = "Fails where the power does not exist: x1 = 0 with a < 0, x1 < 0 with a broken a.")
+                           {"b", "y at x1 = 1 and x2 = 0", Trait::level},
+                           {"c", "slope along x2 at x1 = 1", Trait::slope, Dimension{.y = 1, .x2 = -1}}},
+            .x = {not_negative, any_number}, .typical = {{0.6, 1, 0.5}, 0.05, 5, 0, 4},
+            .scales = Scales::y_only,
+            .notes = "Fails where the power does not exist: for x1 = 0 with a < 0, and for x1 < 0 unless a is "
+                     "a whole number.")
 
 } // namespace ansatz::cole

@@ -1,9 +1,12 @@
 // What the host library throws. Every message is one complete, plain sentence for the user, without a final
-// stop.
+// stop. Names and cells that it quotes are as in printable().
 #pragma once
+
+#include <ansatz/host/text.hpp>
 
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace ansatz::host {
@@ -11,7 +14,7 @@ namespace ansatz::host {
 /// The request or the data cannot be worked with.
 class Error : public std::runtime_error {
 public:
-    using std::runtime_error::runtime_error;
+    explicit Error(std::string_view message) : std::runtime_error(printable(message)) {}
 };
 
 /// No model has this name.
