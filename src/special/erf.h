@@ -7,9 +7,9 @@ namespace ansatz {
 
 /// The C library's erf (within 1 ulp), which never reports an error: some libraries set the indicator where the
 /// result is subnormal, and that is none of a model's business.
-inline double erf(double t) {
+inline Real erf(Real t) {
     const int before = indicator();
-    const double r = std::erf(t);
+    const Real r = std::erf(t);
     indicator() = before;
     return r;
 }

@@ -1,11 +1,5 @@
-// Gumbel: the Gumbel (extreme value) distribution function of smallest values.
-//
-//   y = 1 - e^(-e^((x - P1) / P2))
-//
-//   P1 location, where y = 1 - 1/e; P2 scale (same unit as x; negative: the curve falls).
-//
-//   Fails for P2 == 0 and where the inner exponential overflows, from about 709 scales above the location on.
-//   No derivatives; a derivative request, and a call that requests nothing, return 1.
+// Gumbel. Fails for b == 0 and where the inner exponential overflows. A derivative request, and a call that
+// requests nothing, return 1.
 
 #include "models/distributions/answers.h"
 
@@ -23,10 +17,14 @@ Status value(const Point& at) {
 
 ANSATZ_MODEL(Gumbel, ValueOrRefusal<value, distribution::values>)
 
-ANSATZ_PAGE(Gumbel, .title = "", .formula = "y = 1 - exp(-exp((x - xc)/b))",
-            .parameters = {{"xc", "location, where y = 1 - 1/e = 0.632", Trait::constant},
-                           {"b", "scale (as x); negative: the curve falls", Trait::constant}},
-            .notes = "The distribution function of smallest values, from 0 to 1. Fails for b = 0 and more than "
-                     "709 scales above the location.")
+ANSATZ_PAGE(Gumbel, .title = "The extreme-value distribution function of smallest values",
+            .formula = "y = 1 - exp(-exp((x - xc)/b))",
+            .parameters = {{"xc", "location, where y = 1 - 1/e = 0.632", Trait::position},
+                           {"b", "scale (as x); negative: the curve falls", Trait::width, not_zero}},
+            .typical = {{5, 1}, 0, 8}, .scales = Scales::x_only,
+            .known_as = "Gumbel distribution, smallest extreme value distribution, type I extreme value "
+                        "distribution",
+            .source = "Fisher and Tippett, 1928",
+            .notes = "From 0 to 1. Fails for b = 0 and more than 709 scales above the location.")
 
 } // namespace ansatz::gumbel

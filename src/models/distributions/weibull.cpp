@@ -1,14 +1,9 @@
-// Weibull: the density of the Weibull distribution with a location, on an offset.
+// Weibull. y[2] is the density alone, without the offset.
 //
-//   y = P1 + (P3 / P2) u^(P3 - 1) e^(-u^P3),   u = (x - P4) / P2
-//
-//   P1 offset, P2 scale (same unit as x), P3 shape (no unit), P4 location (same unit as x), where the density
-//   begins. y[2] is the density alone, without the offset.
-//
-//   Outside the domain, P2 <= 0 or x <= P4, the marker goes into y[2] while y[1] holds the offset, and the
-//   error indicator is left as it was; the status is 1 as for every failure. An overflow fails in the ordinary
-//   way, with the marker in y[1]. Needs nParams >= 4: with fewer the call returns 1 and y = P1. No derivatives:
-//   asked for them alone it returns 1 and y = P1.
+// Outside the domain, b <= 0 or x <= x0, the marker goes into y[2] while y[1] holds the offset, and the error
+// indicator is left as it was; the status is 1 as for every failure. An overflow fails in the ordinary way,
+// with the marker in y[1]. Needs nParams >= 4: with fewer the call returns 1 and y = P1. Asked for derivatives
+// alone it returns 1 and y = P1.
 
 #include "models/distributions/answers.h"
 
@@ -26,15 +21,15 @@ Status value(const Point& at) {
     y[1] = P[1];
     if ((n - 1) / 3 < 1) return failure;
     if (P[2] <= 0) return outside(at);
-    const double t = x[1] - P[4];
+    const Real t = x[1] - P[4];
     if (t <= 0) return outside(at);
-    const double u = t / P[2];
+    const Real u = t / P[2];
     if (u <= 0) return outside(at); // a quotient too small for a double
-    const double ln_u = log(u);
+    const Real ln_u = log(u);
     if (math_error()) return fail(at);
-    const double exponent = (P[3] - 1.0) * ln_u - safe_exp(P[3] * ln_u);
+    const Real exponent = (P[3] - 1.0) * ln_u - safe_exp(P[3] * ln_u);
     if (math_error()) return fail(at);
-    const double density = safe_exp(exponent) * P[3] / P[2];
+    const Real density = safe_exp(exponent) * P[3] / P[2];
     if (math_error()) return fail(at);
     y[2] = density;
     y[1] += density;
@@ -51,11 +46,20 @@ Status refuse_with_offset(const Point& at) {
 ANSATZ_MODEL(Weibull, ValueOrRefusal<value, distribution::values, refuse_with_offset>)
 
 ANSATZ_PAGE(
-    Weibull, .title = "", .formula = "y = y0 + (k/b) u^(k - 1) exp(-u^k),  u = (x - x0)/b",
+    Weibull,
+    .title = "The density of a distribution of lifetimes or strengths above a smallest one, on an offset",
+    .formula = "y = y0 + (k/b) u^(k - 1) exp(-u^k),  u = (x - x0)/b",
     .parameters = {{"y0", "offset", Trait::offset},
-                   {"b", "scale (as x)", Trait::constant},
-                   {"k", "shape", Trait::shape},
-                   {"x0", "location, where the density begins", Trait::constant}},
-    .notes = "A density of area 1. Fails for b <= 0 and x <= x0: keep x0 below the smallest x (--upper x0).")
+                   {"b", "scale (as x)", Trait::width, positive},
+                   {"k", "shape", Trait::shape, positive},
+                   {"x0", "location, where the density begins", Trait::threshold}},
+    .typical = {{0.05, 2, 1.8, 0.5}, 0.55, 7}, .scales = Scales::neither,
+    .same_as =
+        "Weibull3(y0 = y0, xc = x0 + b (1 - 1/k)^(1/k), A = (k/b) (1 - 1/k)^(1 - 1/k) exp(1/k - 1), w1 = "
+        "b, w2 = k)",
+    .known_as = "Weibull distribution, three-parameter Weibull distribution", .source = "Weibull, 1951",
+    .notes =
+        "A density of area 1. Fails for b <= 0 and x <= x0: keep x0 below the smallest x (--upper x0). The "
+        "same curve as Weibull3 for k > 1 only.")
 
 } // namespace ansatz::weibull

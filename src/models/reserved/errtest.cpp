@@ -43,13 +43,14 @@ Status derivatives(const Point& at) {
 
 ANSATZ_MODEL(errtest, BothPaths<value, derivatives>)
 
-ANSATZ_PAGE(errtest, .title = "", .formula = "y = a + b x",
-            .parameters = {{"a", "intercept", Trait::constant},
+ANSATZ_PAGE(errtest, .title = "A straight line that fails on demand", .formula = "y = a + b x",
+            .parameters = {{"a", "intercept", Trait::offset},
                            {"b", "slope", Trait::slope},
                            {"c",
                             "without effect on y: the failure to rehearse, 1 range error, 2 domain error, 3 "
                             "failed check; any other value for none",
                             Trait::constant}},
+            .typical = {{1, 0.5, 0}, 0, 10}, .same_as = "Line(a = a, b = b)",
             .notes = "Lets a host rehearse its error handling. A fit has to hold c (--fix c=0), which the line "
                      "does not depend on.")
 

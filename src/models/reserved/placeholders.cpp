@@ -1,9 +1,9 @@
-// Routines behind rows that compute nothing: three placeholders that hosts know.
-// With no request bit they return the flags byte, which differs from 0 under FF_PROBE.
+// The rows that compute nothing, and the three routines that answer for them as hosts know it. With no request
+// bit they return the flags byte, which differs from 0 under FF_PROBE.
 
 #include "protocol/forms.h"
 
-namespace ansatz {
+namespace ansatz::placeholders {
 namespace {
 
 constexpr unsigned any_work = FF_VALUE | FF_DERIV;
@@ -35,44 +35,48 @@ struct Refuse {
 
 ANSATZ_MODEL(LangmuirTS1, Succeed)
 
-ANSATZ_PAGE(LangmuirTS1, .title = "A reserved name", .reserved = true,
-            .notes = "Reserved name, computes nothing.")
+ANSATZ_PAGE(LangmuirTS1, .title = "A reserved name: nothing is computed", .reserved = true,
+            .notes = "Every request is answered with success, and nothing is written: y keeps what it held.")
 
-ANSATZ_PAGE(LangmuirTS2, .title = "A reserved name", .reserved = true,
-            .notes = "Reserved name, computes nothing.")
+ANSATZ_PAGE(LangmuirTS2, .title = "A reserved name: nothing is computed", .reserved = true,
+            .notes = "Every request is answered with success, and nothing is written: y keeps what it held.")
 
-ANSATZ_PAGE(Rational4P, .title = "A reserved name", .reserved = true,
-            .notes = "Reserved name, computes nothing.")
+ANSATZ_PAGE(Rational4P, .title = "A reserved name: nothing is computed", .reserved = true,
+            .notes = "Every request is answered with success, and nothing is written: y keeps what it held.")
 
-ANSATZ_PAGE(ExpCSum1, .title = "A reserved name", .reserved = true, .notes = "Reserved name, computes nothing.")
+ANSATZ_PAGE(ExpCSum1, .title = "A reserved name: nothing is computed", .reserved = true,
+            .notes = "Every request is answered with success, and nothing is written: y keeps what it held.")
 
-ANSATZ_PAGE(ExpCSum2, .title = "A reserved name", .reserved = true, .notes = "Reserved name, computes nothing.")
+ANSATZ_PAGE(ExpCSum2, .title = "A reserved name: nothing is computed", .reserved = true,
+            .notes = "Every request is answered with success, and nothing is written: y keeps what it held.")
 
-ANSATZ_PAGE(ExpCSumEVP, .title = "A reserved name", .reserved = true,
-            .notes = "Reserved name, computes nothing.")
+ANSATZ_PAGE(ExpCSumEVP, .title = "A reserved name: nothing is computed", .reserved = true,
+            .notes = "Every request is answered with success, and nothing is written: y keeps what it held.")
 
-ANSATZ_PAGE(Prunty, .title = "A reserved name", .reserved = true, .notes = "Reserved name, computes nothing.")
+ANSATZ_PAGE(Prunty, .title = "A reserved name: nothing is computed", .reserved = true,
+            .notes = "Every request is answered with success, and nothing is written: y keeps what it held.")
 
-ANSATZ_PAGE(BentHyperblSmp, .title = "A reserved name", .reserved = true,
-            .notes = "Reserved name, computes nothing.")
+ANSATZ_PAGE(BentHyperblSmp, .title = "A reserved name: nothing is computed", .reserved = true,
+            .notes = "Every request is answered with success, and nothing is written: y keeps what it held.")
 
 ANSATZ_MODEL(RationalEVP, Query)
 
-ANSATZ_PAGE(RationalEVP, .title = "A reserved name", .reserved = true,
-            .notes = "Reserved name, computes nothing.")
+ANSATZ_PAGE(RationalEVP, .title = "A reserved name: nothing is computed", .reserved = true,
+            .notes = "Claims to have derivatives. Every request is answered with success, and nothing is "
+                     "written: y keeps what it held.")
 
 ANSATZ_MODEL(BelehradekEVP, Refuse)
 
-ANSATZ_PAGE(BelehradekEVP, .title = "A reserved name", .reserved = true,
-            .notes = "Reserved name, computes nothing.")
+ANSATZ_PAGE(BelehradekEVP, .title = "A reserved name: nothing is computed", .reserved = true,
+            .notes = "Every request is refused with status 1, and nothing is written: y keeps what it held.")
 
-ANSATZ_PAGE(ChapmanEVP1, .title = "A reserved name", .reserved = true,
-            .notes = "Reserved name, computes nothing.")
+ANSATZ_PAGE(ChapmanEVP1, .title = "A reserved name: nothing is computed", .reserved = true,
+            .notes = "Every request is refused with status 1, and nothing is written: y keeps what it held.")
 
-ANSATZ_PAGE(ChapmanEVP2, .title = "A reserved name", .reserved = true,
-            .notes = "Reserved name, computes nothing.")
+ANSATZ_PAGE(ChapmanEVP2, .title = "A reserved name: nothing is computed", .reserved = true,
+            .notes = "Every request is refused with status 1, and nothing is written: y keeps what it held.")
 
-ANSATZ_PAGE(ChapmanEVP3, .title = "A reserved name", .reserved = true,
-            .notes = "Reserved name, computes nothing.")
+ANSATZ_PAGE(ChapmanEVP3, .title = "A reserved name: nothing is computed", .reserved = true,
+            .notes = "Every request is refused with status 1, and nothing is written: y keeps what it held.")
 
-} // namespace ansatz
+} // namespace ansatz::placeholders

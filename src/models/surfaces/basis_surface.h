@@ -1,6 +1,6 @@
 // The frames of the surfaces that are a common offset plus blocks of coefficients of fixed basis functions:
 //
-//   z = P1 + sum over the blocks and over j of  c_j f_j(x1, x2)
+//   P1 + sum over the blocks and over j of  c_j f_j(x1, x2)
 //
 //   y[k+1] is block k alone, without the offset. The blocks of one call share the basis functions, so a second
 //   block adds nothing to what a fit can describe.
@@ -18,14 +18,14 @@
 
 namespace ansatz::basis_surface {
 
-template <std::size_t J> using Functions = std::array<double, J>;
+template <std::size_t J> using Functions = std::array<Real, J>;
 
 /// A basis: its functions at (x1, x2), in the order of the coefficients.
-template <std::size_t J> using Basis = Functions<J> (*)(double x1, double x2);
+template <std::size_t J> using Basis = Functions<J> (*)(Real x1, Real x2);
 
 /// One block's contribution, c[0] being its first coefficient.
-template <std::size_t J> double contribution(const double* c, const Functions<J>& f) {
-    double sum = c[0] * f[0];
+template <std::size_t J> Real contribution(const Scalar* c, const Functions<J>& f) {
+    Real sum = c[0] * f[0];
     for (std::size_t j = 1; j < J; ++j) sum += c[j] * f[j];
     return sum;
 }

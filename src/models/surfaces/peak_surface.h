@@ -19,13 +19,13 @@ namespace ansatz::peak_surface {
 /// by A. It states the distance of its blocks (stride) and how many derivative slots a peak fills (slots) and
 /// loses on a failure (marked).
 struct Block {
-    const double* p;
-    double x1, x2;
-    double A = p[1], xc = p[2], wx = p[3], yc = p[4], wy = p[5];
+    const Scalar* p;
+    Real x1, x2;
+    Scalar A = p[1], xc = p[2], wx = p[3], yc = p[4], wy = p[5];
 };
 
 /// The derivative by a centre, from the common factor s; exactly 0 at the centre.
-inline double by_centre(double s, double x, double centre) {
+inline Real by_centre(Real s, Real x, Scalar centre) {
     return x == centre ? 0 : s / (x - centre);
 }
 
@@ -35,10 +35,10 @@ template <class Shape> Status value(const Point& at) {
     y[1] = P[1];
     const int peaks = (n - 1) / Shape::stride;
     for (int i = 1; i <= peaks; ++i) {
-        const double* p = P + 1 + (i - 1) * Shape::stride;
+        const Scalar* p = P + 1 + (i - 1) * Shape::stride;
         if (p[1] == 0) continue;
         if (p[3] == 0 || p[5] == 0) return fail_surface(at);
-        const double peak = Shape{{p, x[1], x[2]}}.component();
+        const Real peak = Shape{{p, x[1], x[2]}}.component();
         if (math_error()) return fail_surface(at);
         y[i + 1] = peak;
         y[1] += peak;
@@ -53,8 +53,8 @@ template <class Shape> Status derivatives(const Point& at) {
     y[1] = P[1];
     const int peaks = (n - 1) / Shape::stride;
     for (int i = 1; i <= peaks; ++i) {
-        const double* p = P + 1 + (i - 1) * Shape::stride;
-        double* d = dyda + 1 + (i - 1) * Shape::stride;
+        const Scalar* p = P + 1 + (i - 1) * Shape::stride;
+        Real* d = dyda + 1 + (i - 1) * Shape::stride;
         if (p[1] == 0) {
             for (int k = 1; k <= Shape::slots; ++k) d[k] = 0;
             continue;
@@ -67,7 +67,7 @@ template <class Shape> Status derivatives(const Point& at) {
         const Shape shape{{p, x[1], x[2]}};
         if (range_error()) return fail_peak();
         shape.partials(d);
-        const double peak = shape.component();
+        const Real peak = shape.component();
         y[i + 1] = peak;
         y[1] += peak;
     }

@@ -1,6 +1,4 @@
-// Plane: z = P1 + P2 x1 + P3 x2.
-//
-//   P1 level at the origin, P2 slope along x1, P3 slope along x2. Never fails.
+// Plane. Never fails, whatever nParams is.
 
 #include "protocol/forms.h"
 
@@ -25,9 +23,11 @@ Status derivatives(const Point& at) {
 
 ANSATZ_MODEL(Plane, BothPaths<value, derivatives>)
 
-ANSATZ_PAGE(Plane, .title = "", .formula = "y = y0 + a x1 + b x2",
+ANSATZ_PAGE(Plane, .title = "A plane over x1 and x2", .formula = "y = y0 + a x1 + b x2",
             .parameters = {{"y0", "level at the origin", Trait::offset},
                            {"a", "slope along x1", Trait::slope},
-                           {"b", "slope along x2", Trait::slope}})
+                           {"b", "slope along x2", Trait::slope, Dimension{.y = 1, .x2 = -1}}},
+            .typical = {{1, 0.5, -0.3}, 0, 10, 0, 10},
+            .known_as = "linear regression on two variables, first-order response surface")
 
 } // namespace ansatz::plane

@@ -1,16 +1,9 @@
-// LineExp: a straight line and an exponential, two dependent variables.
-//
-//   y[1] = P1 + P3 x,   y[2] = P2 + P4 e^(x/P5)
-//
-//   P1 and P2 offsets of the line and of the exponential, P3 slope, P4 amplitude, P5 scale of x (same unit;
-//   negative: decay).
-//
-//   An overflow of the exponential fails both outputs. P5 == 0 is not tested: for x >= 0 it makes y[2] infinite
-//   or not a number, with status 0. No derivatives; a derivative request alone returns 0 and writes nothing.
+// LineExp. An overflow of the exponential fails both outputs. t == 0 is not tested: for x >= 0 it makes y[2]
+// infinite or not a number, with status 0. A derivative request alone returns 0 and writes nothing.
 
 #include "models/several_outputs/missing_fill.h"
 
-namespace ansatz::lineexp {
+namespace ansatz::line_exp {
 namespace {
 
 Status value(const Point& at) {
@@ -25,12 +18,14 @@ Status value(const Point& at) {
 
 ANSATZ_MODEL(LineExp, ValueOrNothing<value>)
 
-ANSATZ_PAGE(LineExp, .title = "", .formula = "y1 = a + b x;  y2 = y0 + A exp(x/t)",
+ANSATZ_PAGE(LineExp, .title = "A straight line and an exponential over the same x, in two columns",
+            .formula = "y1 = a + b x;  y2 = y0 + A exp(x/t)",
             .parameters = {{"a", "offset of the line", Trait::offset},
                            {"y0", "offset of the exponential", Trait::offset},
                            {"b", "slope of the line", Trait::slope},
                            {"A", "amplitude of the exponential", Trait::amplitude},
-                           {"t", "scale of x; negative: decay", Trait::constant}},
+                           {"t", "scale of x; negative: decay", Trait::time, not_zero}},
+            .typical = {{1, 0.5, 0.3, 4, -2}, 0, 10},
             .notes = "The two columns share no parameter. Fails for x/t above 709; t = 0 gives no number.")
 
-} // namespace ansatz::lineexp
+} // namespace ansatz::line_exp
