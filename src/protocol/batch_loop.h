@@ -15,6 +15,11 @@ namespace ansatz::batch {
 
 inline constexpr int most_params = ANSATZ_BATCH_MOST_PARAMS;
 
+/// How many zeros stand behind n parameters: some models read a little further than nParams says.
+constexpr int slack(int n) {
+    return n / 2 + 16;
+}
+
 /// A checked batch. What the caller did not give is there all the same, with a stride of 0: columns of zeros to
 /// read, places to write that nobody reads.
 struct Job {
@@ -43,10 +48,10 @@ template <class Form, unsigned request>
     // Everything in locals, so that nothing a model stores can change it.
     const auto [n, params, columns, x_stride, outputs, y_column, y_stride, jacobian, jacobian_stride, statuses,
                 status_stride] = job;
-    constexpr std::size_t slots = most_params + most_params / 2;
+    constexpr std::size_t slots = 1 + most_params + slack(most_params);
     double P[slots], y[slots];
     std::copy_n(params, n, P + 1);
-    std::fill_n(P + 1 + n, n / 2 + 16, 0.0); // some models read a little further than nParams says
+    std::fill_n(P + 1 + n, slack(n), 0.0);
 
     const double *x1 = columns[0] + first * x_stride[0], *x2 = columns[1] + first * x_stride[1],
                  *x3 = columns[2] + first * x_stride[2];
@@ -54,6 +59,7 @@ template <class Form, unsigned request>
     double* dyda = request == FF_DERIV ? jacobian + first * jacobian_stride - 1 : nullptr;
     std::int32_t* status = statuses + first * status_stride;
     const Keep keep;
+    const KeepIndicator keep_indicator;
     std::size_t failures = 0;
     for (std::ptrdiff_t i = first; i < last; ++i) {
         double x[4] = {0, *x1, *x2, *x3};

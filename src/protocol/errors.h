@@ -30,6 +30,18 @@ static_assert(EDOM == 33 && ERANGE == 34, "hosts read the indicator by these num
 inline int& indicator() {
     return batch_indicator;
 }
+
+/// Puts the indicator back as a loop found it: another loop may be under way, interrupted by a signal.
+class KeepIndicator {
+public:
+    KeepIndicator() : found_(batch_indicator) {}
+    ~KeepIndicator() { batch_indicator = found_; }
+    KeepIndicator(const KeepIndicator&) = delete;
+    KeepIndicator& operator=(const KeepIndicator&) = delete;
+
+private:
+    int found_;
+};
 #else
 inline int& indicator() {
     return errno;

@@ -30,15 +30,17 @@ struct Kept {
 /// Those of the loop that runs on this thread.
 [[gnu::tls_model("initial-exec")]] inline constinit thread_local Kept* kept = nullptr;
 
-/// A loop has one for as long as it runs.
+/// A loop has one for as long as it runs. A signal handler's loop may interrupt another on the same thread,
+/// which finds its own again.
 class Keep {
 public:
-    Keep() { kept = &quantities_; }
-    ~Keep() { kept = nullptr; }
+    Keep() : interrupted_(kept) { kept = &quantities_; }
+    ~Keep() { kept = interrupted_; }
     Keep(const Keep&) = delete;
     Keep& operator=(const Keep&) = delete;
 
 private:
+    Kept* interrupted_;
     Kept quantities_;
 };
 
