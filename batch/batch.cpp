@@ -3,6 +3,7 @@
 
 #include "build/entry.h"
 #include "catalogue/name.h"
+#include "protocol/host_arithmetic.h"
 
 #include <atomic>
 #include <cerrno>
@@ -36,6 +37,7 @@ bool makes_sense(const AnsatzBatch& b) {
     if (b.nX < 1 || b.nX > 3) return false;
     if (b.nY < 0 || b.nY > most_params) return false;
     if (b.nPoints == 0) return true;
+    if (b.nPoints > PTRDIFF_MAX) return false;
     for (int c = 0; c < b.nX; ++c) {
         if (!b.x[c]) return false;
     }
@@ -121,11 +123,13 @@ std::int64_t ANSATZ_CALL ansatz_batch_run(const AnsatzBatchModel* model, const A
     using namespace ansatz::batch;
     if (!model || !batch || !makes_sense(*batch)) return -1;
     const AnsatzBatch& b = *batch;
+    if (b.nPoints == 0) return 0; // there may be no columns to point into
     const bool derivatives = b.request == FF_DERIV;
     static constexpr double zero = 0;
     double unread_y = 0;
     std::int32_t unread_status = 0;
     const int slots = model->layout->slots(b.nParams);
+    if (slots > most_slots) return -1;
     Job job{.n = b.nParams,
             .slots = std::max(slots, b.nParams),
             .params = b.params,
@@ -145,9 +149,10 @@ std::int64_t ANSATZ_CALL ansatz_batch_run(const AnsatzBatchModel* model, const A
     const Loop loop = derivatives ? model->loops->derivatives : model->loops->value;
     const auto points = static_cast<std::ptrdiff_t>(b.nPoints);
     const int threads =
-        static_cast<int>(std::min<std::ptrdiff_t>({(points + block - 1) / block, b.threads, most_threads}));
+        static_cast<int>(std::min<std::ptrdiff_t>({(points - 1) / block + 1, b.threads, most_threads}));
 
     const int indicator = errno;
+    const ansatz::BatchArithmetic own_arithmetic; // threads inherit it
     const std::size_t failures = derivatives && slots > b.nParams ? run_by_wide_row(loop, job, points)
                                  : threads > 1                    ? run_on_threads(loop, job, points, threads)
                                                                   : loop(job, 0, points);

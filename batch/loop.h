@@ -16,7 +16,7 @@ namespace ansatz::batch {
 inline constexpr int most_params = ANSATZ_BATCH_MOST_PARAMS;
 
 /// The most slots that a call with so many parameters reads or writes: some models lay their blocks further
-/// apart than they count them. The table of rows checks it against every layout.
+/// apart than they count them. A call with more is refused.
 inline constexpr int most_slots = most_params + most_params / 2;
 
 /// A checked batch. What the caller did not give is there all the same, with a stride of 0: columns of zeros to
@@ -58,7 +58,7 @@ template <class Form, unsigned request>
     double* out = y_column + first * y_stride;
     double* dyda = request == FF_DERIV ? jacobian + first * jacobian_stride - 1 : nullptr;
     std::int32_t* status = statuses + first * status_stride;
-    Kept kept;
+    Kept kept; // a signal handler's loop may interrupt another on the same thread, which finds its own again
     const Running before = std::exchange(running, {.indicator = 0, .kept = &kept});
     std::size_t failures = 0;
     for (std::ptrdiff_t i = first; i < last; ++i) {

@@ -9,7 +9,13 @@
 
 #include <cerrno>
 #include <cmath>
-#include <limits>
+#include <csignal>
+#include <cstdlib>
+#include <sys/mman.h>
+
+#ifdef __x86_64__
+#include "frame/host_settings.h"
+#endif
 
 namespace ansatz::test {
 namespace {
@@ -33,7 +39,7 @@ struct Results {
 Results singly(const Model& model, const Points& points, unsigned request, int outputs) {
     const std::size_t N = points.size(), n = points.P.size();
     Results results;
-    std::vector<double> P(n + slots, 0.0), x(slots), y(n + slots), dyda(n + slots);
+    std::vector<double> P(2 * n + slots, 0.0), x(slots), y(2 * n + slots), dyda(2 * n + slots);
     std::copy(points.P.begin(), points.P.end(), P.begin() + 1);
     for (std::size_t i = 0; i < N; ++i) {
         std::fill(x.begin(), x.end(), 0.0);
@@ -55,6 +61,22 @@ Results singly(const Model& model, const Points& points, unsigned request, int o
     return results;
 }
 
+/// A batch over these points that has nowhere to write yet.
+AnsatzBatch batch_of(const Points& points, unsigned request) {
+    AnsatzBatch batch = {};
+    batch.request = request;
+    batch.nParams = static_cast<int>(points.P.size());
+    batch.params = points.P.data();
+    batch.nPoints = points.size();
+    batch.nX = static_cast<int>(points.x.size());
+    for (std::size_t c = 0; c < points.x.size(); ++c) {
+        batch.x[c] = points.x[c].data();
+        batch.xStride[c] = 1;
+    }
+    batch.jacobianStride = batch.nParams;
+    return batch;
+}
+
 Results together(const std::string& name, const Points& points, unsigned request, int outputs, int threads) {
     const std::size_t N = points.size(), n = points.P.size();
     Results results;
@@ -62,21 +84,11 @@ Results together(const std::string& name, const Points& points, unsigned request
     results.y.assign(N * static_cast<std::size_t>(outputs) + guard, untouched);
     results.jacobian.assign(N * n + guard, untouched);
     results.status.assign(N, -1);
-    AnsatzBatch batch = {};
-    batch.request = request;
-    batch.nParams = static_cast<int>(n);
-    batch.params = points.P.data();
-    batch.nPoints = N;
-    batch.nX = static_cast<int>(points.x.size());
-    for (std::size_t c = 0; c < points.x.size(); ++c) {
-        batch.x[c] = points.x[c].data();
-        batch.xStride[c] = 1;
-    }
+    AnsatzBatch batch = batch_of(points, request);
     batch.nY = outputs;
     batch.y = results.y.data();
     batch.yStride = outputs;
     batch.jacobian = results.jacobian.data();
-    batch.jacobianStride = static_cast<std::ptrdiff_t>(n);
     batch.status = results.status.data();
     batch.threads = threads;
     results.failures = ansatz_batch_run(ansatz_batch_find(name.c_str()), &batch);
@@ -100,32 +112,6 @@ void expect_alike(const Results& one, const Results& other) {
     EXPECT_TRUE(std::equal(one.y.begin(), one.y.end(), other.y.begin(), other.y.end(), alike));
     EXPECT_TRUE(std::equal(one.jacobian.begin(), one.jacobian.end(), other.jacobian.begin(),
                            other.jacobian.end(), alike));
-}
-
-/// The x of all golden points of a row, and some where models fail or reach their limits.
-std::vector<std::vector<double>> columns_of(const GoldenRow& row) {
-    constexpr double inf = std::numeric_limits<double>::infinity();
-    std::vector<std::vector<double>> x(row.points.at(0).x.size());
-    for (std::size_t c = 0; c < x.size(); ++c) {
-        for (const GoldenPoint& point : row.points) x[c].push_back(point.x[c]);
-        for (const double extreme : {0.0, -1.0, -3.7, 1e5, -1e5, 1e200, -1e200, inf, -inf, std::nan("")})
-            x[c].push_back(extreme);
-    }
-    return x;
-}
-
-/// A row's golden parameters, and variants of them that break one condition of the domain at a time.
-std::vector<std::vector<double>> parameters_of(const GoldenRow& row) {
-    std::vector<std::vector<double>> variants;
-    for (const GoldenPoint& point : row.points) variants.push_back(point.P);
-    const std::vector<double> some = row.points.front().P;
-    for (std::size_t k = 0; k < some.size(); ++k) {
-        for (const double broken : {0.0, -some[k], 1e-30, 1e200, std::nan("")}) {
-            variants.push_back(some);
-            variants.back()[k] = broken;
-        }
-    }
-    return variants;
 }
 
 TEST(Batch, HasTheBitsOfSingleCallsForEveryRow) {
@@ -163,6 +149,26 @@ TEST(Batch, KeepsToTheRowsOfTheJacobian) {
             for (const unsigned request : {0u + FF_VALUE, 0u + FF_DERIV}) {
                 SCOPED_TRACE(row.name + " with " + std::to_string(n) + " parameters");
                 expect_alike(together(row.name, points, request, 1, 1), singly(model, points, request, 1));
+            }
+        }
+    }
+}
+
+/// Batches of as many parameters as there may be, and single calls of a few more.
+TEST(Batch, TakesTheMostParameters) {
+    for (const GoldenRow& row : golden_rows()) {
+        const Model model = find(row.name);
+        Points points{.P = row.points.back().P, .x = columns_of(row)};
+        for (auto& column : points.x) column.resize(2);
+        for (std::size_t n = 500; n <= ANSATZ_BATCH_MOST_PARAMS + 1; ++n) {
+            points.P.resize(n, 0.75);
+            for (const unsigned request : {0u + FF_VALUE, 0u + FF_DERIV}) {
+                SCOPED_TRACE(row.name + " with " + std::to_string(n) + " parameters");
+                const Results expected = singly(model, points, request, 1);
+                if (n <= ANSATZ_BATCH_MOST_PARAMS)
+                    expect_alike(together(row.name, points, request, 1, 1), expected);
+                else
+                    EXPECT_EQ(together(row.name, points, request, 1, 1).failures, -1);
             }
         }
     }
@@ -288,6 +294,7 @@ TEST(Batch, RefusesWhatMakesNoSense) {
     EXPECT_TRUE(refused([](AnsatzBatch& b) { b.nX = 0; }));
     EXPECT_TRUE(refused([](AnsatzBatch& b) { b.nX = 2; })); // the second column is missing
     EXPECT_TRUE(refused([](AnsatzBatch& b) { b.nX = 4; }));
+    EXPECT_TRUE(refused([](AnsatzBatch& b) { b.nPoints = std::size_t{PTRDIFF_MAX} + 1; }));
     EXPECT_TRUE(refused([](AnsatzBatch& b) { b.x[0] = nullptr; }));
     EXPECT_TRUE(refused([](AnsatzBatch& b) { b.nY = -1; }));
     EXPECT_TRUE(refused([](AnsatzBatch& b) { b.y = nullptr; }));
@@ -296,9 +303,118 @@ TEST(Batch, RefusesWhatMakesNoSense) {
     EXPECT_EQ(y[0], 7);
     EXPECT_EQ(jacobian[1], 3);
 
-    good.nPoints = 0; // nothing to do is no error
-    good.x[0] = nullptr;
-    EXPECT_EQ(ansatz_batch_run(line, &good), 0);
+    AnsatzBatch nothing = {}; // to do is no error
+    nothing.nX = 1;
+    for (const unsigned request : {0u + FF_VALUE, 0u + FF_DERIV}) {
+        nothing.request = request;
+        nothing.threads = 2;
+        EXPECT_EQ(ansatz_batch_run(line, &nothing), 0);
+        EXPECT_EQ(ansatz_batch_run(ansatz_batch_find("PolyN"), &nothing), 0); // by way of wide rows
+    }
+    nothing.nX = 4;
+    EXPECT_EQ(ansatz_batch_run(line, &nothing), -1);
+}
+
+#ifdef __x86_64__
+TEST(Batch, DoesNotDependOnTheHostsArithmetic) {
+    const auto check = [](const std::string& name, const Points& points, int threads) {
+        for (const unsigned request : {0u + FF_VALUE, 0u + FF_DERIV}) {
+            const Results expected = singly(find(name), points, request, 1);
+            for (const HostSettings& settings : host_settings) {
+                SCOPED_TRACE(name + " where the host " + settings.name);
+                Results results;
+                bool unchanged = false;
+                {
+                    const InHost host(settings);
+                    const auto before = current_settings();
+                    results = together(name, points, request, 1, threads);
+                    unchanged = current_settings() == before;
+                }
+                EXPECT_TRUE(unchanged);
+                expect_alike(results, expected);
+            }
+        }
+    };
+    for (const GoldenRow& row : golden_rows()) {
+        for (const auto& P : parameters_of(row)) check(row.name, {.P = P, .x = columns_of(row)}, 1);
+    }
+    Points many{.P = {0.1, 1.3, 2.1, 0.7}, .x = {{}}};
+    for (int i = 0; i < 3000; ++i) many.x[0].push_back(0.001 * i);
+    check("Gauss", many, 3);
+}
+#endif
+
+/// A batch whose Jacobian lies on locked pages, one row on each, and the batches that the handler of the faults
+/// runs.
+struct Interruption {
+    static constexpr std::size_t page = 4096, pages = 6, doubles = page / sizeof(double);
+    double* jacobian = nullptr;
+    std::vector<std::pair<const AnsatzBatchModel*, AnsatzBatch>> others;
+    int count = 0;
+
+    void lock(int protection) const { mprotect(jacobian, page * pages, protection); }
+
+    void interrupt(void* at) {
+        const auto first = reinterpret_cast<std::uintptr_t>(jacobian),
+                   byte = reinterpret_cast<std::uintptr_t>(at);
+        if (byte - first >= page * pages) std::abort(); // some other fault
+        mprotect(jacobian + (byte - first) / page * doubles, page, PROT_READ | PROT_WRITE);
+        for (const auto& [model, batch] : others) ansatz_batch_run(model, &batch);
+        ++count;
+    }
+};
+Interruption interruption;
+
+TEST(Batch, MayBeRunByASignalHandlerInTheMidstOfAPoint) {
+    constexpr std::size_t N = Interruption::pages, wide = Interruption::doubles;
+    interruption.jacobian = static_cast<double*>(
+        mmap(nullptr, N * Interruption::page, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0));
+    ASSERT_NE(interruption.jacobian, MAP_FAILED);
+    // One that keeps quantities of its parameters, and one that leaves an error behind.
+    const Points peak{.P = {0.5, 1, 7, 3, 2.5}, .x = {{-1, 0.5, 2}}}, rehearsal{.P = {1, 2, 1}, .x = {{1}}};
+    double unread[15];
+    for (const auto& [name, points] : {std::pair("PearsonVII", &peak), std::pair("errtest", &rehearsal)}) {
+        interruption.others.emplace_back(ansatz_batch_find(name), batch_of(*points, FF_DERIV));
+        interruption.others.back().second.jacobian = unread;
+    }
+    struct sigaction handler = {}, usual = {};
+    handler.sa_sigaction = [](int, siginfo_t* info, void*) { interruption.interrupt(info->si_addr); };
+    handler.sa_flags = SA_SIGINFO;
+
+    for (const GoldenRow& row : golden_rows()) {
+        if (!row.derivatives) continue;
+        SCOPED_TRACE(row.name);
+        Points points{.P = row.points.front().P, .x = columns_of(row)};
+        for (auto& column : points.x) // golden ones, and some that may fail
+            column.erase(column.begin() + 2, column.end() - static_cast<std::ptrdiff_t>(N - 2));
+        const std::size_t n = points.P.size();
+        const Results undisturbed = together(row.name, points, FF_DERIV, 1, 1);
+
+        Results results;
+        results.y.resize(N);
+        results.status.resize(N);
+        AnsatzBatch batch = batch_of(points, FF_DERIV);
+        batch.nY = 1;
+        batch.yStride = 1;
+        batch.y = results.y.data();
+        batch.status = results.status.data();
+        batch.jacobian = interruption.jacobian;
+        batch.jacobianStride = wide;
+        interruption.lock(PROT_READ | PROT_WRITE);
+        std::fill_n(interruption.jacobian, N * wide, untouched);
+        interruption.lock(PROT_NONE);
+        interruption.count = 0;
+        sigaction(SIGSEGV, &handler, &usual);
+        results.failures = ansatz_batch_run(ansatz_batch_find(row.name.c_str()), &batch);
+        sigaction(SIGSEGV, &usual, nullptr);
+        interruption.lock(PROT_READ);
+        for (std::size_t i = 0; i < N; ++i)
+            results.jacobian.insert(results.jacobian.end(), batch.jacobian + i * wide,
+                                    batch.jacobian + i * wide + n);
+        EXPECT_GT(interruption.count, 0);
+        expect_alike(results, undisturbed);
+    }
+    munmap(interruption.jacobian, N * Interruption::page);
 }
 
 TEST(Batch, NeedsNeitherValuesNorStatuses) {

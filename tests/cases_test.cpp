@@ -89,6 +89,12 @@ bool agrees(double got, double want) {
 
 void check(const Case& c) {
     const Outcome outcome = call(find(c.name), c.request);
+    if (c.request.flags == FF_VALUE) {
+        Request value_alone = c.request;
+        value_alone.null_dyda = true;
+        EXPECT_TRUE(same_outcome(call(find(c.name), value_alone), outcome))
+            << "without a place for derivatives";
+    }
     EXPECT_EQ(outcome.status, c.status);
     EXPECT_EQ(outcome.indicator, c.indicator) << "the error indicator after the call";
     for (const auto& [slot, want] : c.writes) {

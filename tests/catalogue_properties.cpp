@@ -195,6 +195,21 @@ TEST(Catalogue, EachRequestIsServedAsTheFormPromises) {
     });
 }
 
+TEST(Catalogue, AValueNeedsNoPlaceForDerivatives) {
+    int failed = 0;
+    for (const GoldenRow& row : golden_rows()) {
+        const Model model = find(row.name);
+        for (const GoldenPoint& point : points_around(row)) {
+            Request request{FF_VALUE, static_cast<int>(point.P.size()), point.P, point.x};
+            const Outcome with = call(model, request);
+            request.null_dyda = true;
+            EXPECT_TRUE(same_outcome(call(model, request), with)) << describe(row, point);
+            failed += with.status;
+        }
+    }
+    EXPECT_GT(failed, 500);
+}
+
 TEST(Catalogue, BitsAboveTheLowOnesAreIgnored) {
     for_each_point([](const GoldenRow&, const Model& model, const GoldenPoint& point) {
         const int n = static_cast<int>(point.P.size());

@@ -8,6 +8,7 @@
 
 #include <cctype>
 #include <cerrno>
+#include <clocale>
 #include <set>
 
 namespace ansatz::test {
@@ -119,6 +120,65 @@ TEST(TestCommand, EvaluatesAModelAndReports) {
     EXPECT_EQ(lines, std::vector<std::string>{"unknown function: NoSuchModel"});
     EXPECT_EQ(FuncTest(2, nullptr, nullptr, &request), -1);
     EXPECT_EQ(FuncTest(7, nullptr, keep_line, &request), 0);
+}
+
+TEST(TestCommand, ReportsEveryOutput) {
+    const double P[] = {0, 1, 2, 3, 4, 5};
+    double x[] = {0, 0.5}, y[3] = {};
+    ASSERT_EQ(find("LineExp").nDep, 2);
+    AnsatzTestRequest request = {"LineExp", FF_VALUE, 5, P, x, y, nullptr};
+    lines.clear();
+    EXPECT_EQ(FuncTest(2, nullptr, keep_line, &request), 0);
+    ASSERT_EQ(lines.size(), 3u);
+    for (const int k : {1, 2}) {
+        const std::string line = lines[static_cast<std::size_t>(k)], start = "y[" + std::to_string(k) + "] = ";
+        ASSERT_TRUE(line.starts_with(start)) << line;
+        EXPECT_EQ(std::stod(line.substr(start.size())), y[k]);
+    }
+}
+
+// A callback may well change errno, and so do the estimates of derivatives.
+TEST(TestCommand, LeavesTheErrorIndicatorAsTheModelDid) {
+    const auto disturb = [](std::uint32_t, const char*) { errno = EINTR; };
+    const double P[] = {0, 1, 2, 4};
+    double x[] = {0, 3}, y[2], dyda[4];
+    AnsatzTestRequest request = {"errtest", FF_DERIV, 3, P, x, y, dyda};
+    for (const int before : {0, ERANGE, EDOM}) { // a line looks at no pending error
+        errno = before;
+        EXPECT_EQ(FuncTest(2, nullptr, disturb, &request), 0);
+        EXPECT_EQ(errno, before);
+    }
+    const double failing[] = {0, 1, 2, 1};
+    request.params = failing; // and a failure resets it
+    errno = EDOM;
+    EXPECT_EQ(FuncTest(2, nullptr, disturb, &request), 1);
+    EXPECT_EQ(errno, 0);
+}
+
+TEST(TestCommand, RefusesARequestWithoutAName) {
+    AnsatzTestRequest request = {};
+    request.flags = FF_VALUE;
+    lines.clear();
+    EXPECT_EQ(FuncTest(2, nullptr, keep_line, &request), -1);
+    EXPECT_EQ(lines, std::vector<std::string>{"no function named"});
+    EXPECT_EQ(FuncTest(2, nullptr, keep_line, nullptr), 0);
+}
+
+TEST(TestCommand, WritesNumbersWithAPointInEveryLocale) {
+    const std::string before = std::setlocale(LC_NUMERIC, nullptr);
+    for (const char* name : {"de_DE.UTF-8", "fr_FR.UTF-8", "German"}) {
+        if (std::setlocale(LC_NUMERIC, name)) break;
+    }
+    const std::string separator = std::localeconv()->decimal_point;
+    const double P[] = {0, -0.5, 2.25};
+    double x[] = {0, 1}, y[2], dyda[3];
+    AnsatzTestRequest request = {"Line", FF_DERIV, 2, P, x, y, dyda};
+    lines.clear();
+    EXPECT_EQ(FuncTest(2, nullptr, keep_line, &request), 0);
+    std::setlocale(LC_NUMERIC, before.c_str());
+    EXPECT_EQ(lines.at(1), "y[1] = 1.75");
+    EXPECT_TRUE(lines.at(2).starts_with("dyda[1] = 1, central difference ")) << lines.at(2);
+    if (separator == ".") GTEST_SKIP() << "no locale with a decimal comma is installed";
 }
 
 TEST(TestCommand, GivesNoEstimatesForMoreParametersThanItCopies) {

@@ -46,6 +46,13 @@ TEST(Dll, NeedsNothingButTheSystem) {
     EXPECT_TRUE(dll.imported_names.contains("KERNEL32.dll"));
 }
 
+TEST(Dll, IsProtected) {
+    const std::uint16_t protection = read_dll().protection;
+    EXPECT_TRUE(protection & IMAGE_DLLCHARACTERISTICS_DYNAMIC_BASE) << "loaded at a random address";
+    EXPECT_TRUE(protection & IMAGE_DLLCHARACTERISTICS_NX_COMPAT) << "data is not executed";
+    EXPECT_TRUE(protection & IMAGE_DLLCHARACTERISTICS_NO_SEH) << "nothing in it is an exception handler";
+}
+
 TEST(Dll, EntryPointAnswersOneForEveryReason) {
     // A copy, so that the library under test does not take part.
     ASSERT_TRUE(CopyFileA(ANSATZ_LIBRARY, "entry_point_copy.dll", FALSE)) << GetLastError();

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cstdint>
+#include <limits>
 #include <numeric>
 #include <utility>
 
@@ -145,7 +147,11 @@ int Model::components(int n) const {
 }
 
 void Model::require_size(int n) const {
+    constexpr int most_parameters = std::numeric_limits<std::int16_t>::max(); // routines read no more bits
     if (reserved()) throw Error(fmt::format("{} is a reserved name that computes nothing", name_));
+    if (n > most_parameters) {
+        throw Error(fmt::format("{} takes at most {} parameters, {} given", name_, most_parameters, n));
+    }
     if (!page_) {
         if (n >= default_size_) return;
         throw Error(fmt::format("{} needs {} parameters, {} given", name_, default_size_, n));

@@ -32,6 +32,15 @@
  *   dyda       dyda[k] the partial derivative of y[1] by params[k]. Slots that a call has no value for
  *              (a peak of area zero in some models) keep what they held: clear them if that matters.
  *
+ * The room that dyda needs, by request:
+ *   FF_VALUE alone   none: null will do
+ *   FF_DERIV         every slot that the model writes. A model of fixed size writes those of its row
+ *                    whatever nParams says, an expected-value model those of its reference positions
+ *                    besides; a model of a varying size up to one more than nParams, "Gaussian" up to
+ *                    a third more. Twice the larger of nParams and the row's number is enough for all.
+ *   FF_PROBE         the first four bytes, at index 0
+ *   FF_QUERY_DERIV   none
+ *
  * Failure. A parameter or an x outside the model's domain, a guarded division by zero, a range or a
  * domain error: the call returns 1 and writes MISSING_VALUE into y[1] and, on a derivative request, into
  * the derivative slots concerned; a model with two dependent variables marks y[1] and y[2]. Nothing is
@@ -48,7 +57,16 @@
  * failure it is 0 again (a few models that document otherwise aside).
  *
  * Threads. Models keep no state. Any number of threads may call any models at once, each with
- * outputs of its own; errno is per thread.
+ * outputs of its own; errno is per thread. A signal handler may call models if it puts errno back.
+ *
+ * Floating-point settings. On x86-64 results do not depend on the direction of rounding and the trapped
+ * exceptions that a host sets by fesetround, feenableexcept or fesetenv: a call rounds to nearest, traps
+ * nothing, and leaves the host's settings as they were. What a host changes in the SSE unit's control
+ * register alone, by intrinsics or by linking with -ffast-math (subnormals flushed to zero), does reach
+ * the models: leave that alone, or use the batch library, which copes with it. The 32-bit Windows DLL
+ * copes with everything, the precision of the x87 unit included. On other machines models compute with
+ * the host's settings: leave rounding to nearest, subnormals kept and exceptions untrapped. A call may
+ * add to the record of past exceptions (fetestexcept), or not.
  */
 #ifndef ANSATZ_ANSATZ_H
 #define ANSATZ_ANSATZ_H
@@ -137,8 +155,11 @@ ANSATZ_API int32_t ANSATZ_CALL get_funx_list(int32_t ignored);
  *   message 1  one line "type NAME" per model, in the catalogue's order; returns their number
  *   message 2  `data` points to an AnsatzTestRequest: calls the model and reports the status, the
  *              outputs and, under FF_DERIV, each derivative beside a central-difference estimate;
- *              returns the model's status, or -1 with the line "unknown function: NAME"
- *   otherwise  returns 0 and does nothing */
+ *              returns the model's status, or -1 with the line "unknown function: NAME", or "no
+ *              function named" for a null name
+ *   otherwise  returns 0 and does nothing
+ * Numbers are written with a point, whatever the locale. After message 2 errno is as the model left it.
+ * The callback runs with the models' floating-point settings. */
 typedef void(ANSATZ_CALL* AnsatzTestCallback)(uint32_t message, const char* line);
 
 typedef struct AnsatzTestRequest {

@@ -23,6 +23,11 @@
  * Arrays count from 0 here: P1 is params[0], x1 is the column x[0]. All strides count doubles.
  *
  * The error indicator. Every point is computed with errno at 0, and the caller's errno is left as it was.
+ *
+ * Floating-point settings. On x86-64 a batch rounds to nearest, keeps subnormals and traps no exceptions,
+ * whatever the calling thread has set, and leaves the settings as they were.
+ *
+ * Signals. A signal handler may run a batch with threads at 0 or 1, even where it interrupts another.
  */
 #ifndef ANSATZ_BATCH_H
 #define ANSATZ_BATCH_H
@@ -84,7 +89,8 @@ typedef struct AnsatzBatch {
 ANSATZ_API const AnsatzBatchModel* ANSATZ_CALL ansatz_batch_find(const char* name);
 
 /* Computes all points. Returns how many of them failed, or -1, with nothing written, for a batch that makes no
- * sense: a null model, another request, a null pointer or a number out of range.
+ * sense: a null model, another request, a null pointer or a number out of range (of points, PTRDIFF_MAX). With
+ * no points at all, columns, outputs and the Jacobian may be null.
  *
  * A point that failed has what a single call leaves behind: MISSING_VALUE in y and in the derivative slots
  * concerned. The surfaces, which mark x[2] in a single call, mark y here. */

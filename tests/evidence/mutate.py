@@ -76,7 +76,7 @@ kinds = [
      to(("return success;", "return failure;"), ("return failure;", "return success;"), ("ends_call", "success"),
         ("Idle::flags", "Idle::zero"), ("Idle::one", "Idle::zero"), ("true", "false"), ("false", "true"),
         (".query = 0", ".query = 1"), (".query = 1", ".query = 0"))),
-    ("form", r"\bForm[DE](?=<)", to(("FormD", "FormE"), ("FormE", "FormD"))),
+    ("form", r"\b(BothPaths|OnePath)(?=<)", to(("BothPaths", "OnePath"), ("OnePath", "BothPaths"))),
 ]
 assigned = re.compile(r"^(\s+(?:dyda|d)\[)([^\]]+)(\] = .*)$")
 

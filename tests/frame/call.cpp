@@ -24,6 +24,14 @@ bool same_bits(double a, double b) {
     return std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b);
 }
 
+bool same_outcome(const Outcome& a, const Outcome& b) {
+    const auto same_slot = [](const auto& one, const auto& other) {
+        return one.first == other.first && same_bits(one.second, other.second);
+    };
+    return a.status == b.status && a.indicator == b.indicator &&
+           std::equal(a.written.begin(), a.written.end(), b.written.begin(), b.written.end(), same_slot);
+}
+
 namespace {
 
 /// Notes which slots of an array differ from what they held.
@@ -50,7 +58,7 @@ Outcome call(const Model& model, const Request& request) {
 
     errno = request.indicator;
     outcome.status = model.function(request.flags, 0, request.nParams, 0, 0, P.data(), 0, x.data(),
-                                    outcome.y.data(), outcome.dyda.data());
+                                    outcome.y.data(), request.null_dyda ? nullptr : outcome.dyda.data());
     outcome.indicator = errno;
 
     note_changes(outcome, "P", P, P_before);

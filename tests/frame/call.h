@@ -33,8 +33,10 @@ struct Request {
     int nParams = 0;
     std::vector<double> P, x; ///< from index 0
     int indicator = 0;        ///< errno on entry
+    bool null_dyda = false;   ///< no place for derivatives
 };
 
+/// What a model answered. Where dyda was null, its slots were left alone or the program is no more.
 struct Outcome {
     std::int32_t status = 0;
     int indicator = 0;
@@ -44,6 +46,9 @@ struct Outcome {
 };
 
 Outcome call(const Model& model, const Request& request);
+
+/// The same status, indicator and slots written, bit for bit.
+bool same_outcome(const Outcome& a, const Outcome& b);
 
 /// Same bits (so NaN equals itself and 0 differs from -0).
 bool same_bits(double a, double b);

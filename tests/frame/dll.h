@@ -19,6 +19,7 @@ void* resolve(const char* name, int ordinal);
 /// The headers and tables of the DLL's file that say how it is loaded.
 struct DllFile {
     std::uint16_t machine = 0, characteristics = 0;
+    std::uint16_t protection = 0;  ///< what the loader and the processor may do to protect it
     std::uint32_t entry_point = 0; ///< relative to the base address
     std::string own_name;
     std::map<std::string, int> exports;        ///< name and ordinal

@@ -123,6 +123,7 @@ DllFile read_dll() {
     DllFile dll;
     dll.machine = image.headers().FileHeader.Machine;
     dll.characteristics = image.headers().FileHeader.Characteristics;
+    dll.protection = image.headers().OptionalHeader.DllCharacteristics;
     dll.entry_point = image.headers().OptionalHeader.AddressOfEntryPoint;
     read_exports(image, dll);
     read_imports(image, dll);

@@ -73,6 +73,48 @@ const std::vector<GoldenRow>& golden_rows() {
     return rows;
 }
 
+std::vector<std::vector<double>> columns_of(const GoldenRow& row) {
+    constexpr double inf = std::numeric_limits<double>::infinity();
+    std::vector<std::vector<double>> x(row.points.at(0).x.size());
+    for (std::size_t c = 0; c < x.size(); ++c) {
+        for (const GoldenPoint& point : row.points) x[c].push_back(point.x[c]);
+        for (const double extreme : {0.0, -1.0, -3.7, 1e5, -1e5, 1e200, -1e200, inf, -inf, std::nan("")})
+            x[c].push_back(extreme);
+    }
+    return x;
+}
+
+std::vector<std::vector<double>> parameters_of(const GoldenRow& row) {
+    std::vector<std::vector<double>> variants;
+    for (const GoldenPoint& point : row.points) variants.push_back(point.P);
+    const std::vector<double> some = row.points.front().P;
+    for (std::size_t k = 0; k < some.size(); ++k) {
+        for (const double broken : {0.0, 1.0, -some[k], 1e-30, 1e200, std::nan("")}) {
+            variants.push_back(some);
+            variants.back()[k] = broken;
+        }
+    }
+    return variants;
+}
+
+std::vector<GoldenPoint> points_around(const GoldenRow& row) {
+    std::vector<GoldenPoint> points;
+    const GoldenPoint& first = row.points.at(0);
+    const auto add = [&](const std::vector<double>& P, const std::vector<double>& x) {
+        GoldenPoint& point = points.emplace_back();
+        point.P = P;
+        point.x = x;
+    };
+    for (const auto& P : parameters_of(row)) add(P, first.x);
+    const auto columns = columns_of(row);
+    for (std::size_t i = 0; i < columns[0].size(); ++i) {
+        std::vector<double> x;
+        for (const auto& column : columns) x.push_back(column[i]);
+        add(first.P, x);
+    }
+    return points;
+}
+
 double tolerance(const GoldenRow& row, const Expected& expected) {
     constexpr double eps = std::numeric_limits<double>::epsilon();
     return 4 * eps * row.slack * (std::fabs(expected.want) + expected.condition) + 1e-300;

@@ -35,6 +35,15 @@ struct GoldenRow {
 /// All rows of all families.
 const std::vector<GoldenRow>& golden_rows();
 
+/// The x of all golden points of a row, and some where models fail or reach their limits.
+std::vector<std::vector<double>> columns_of(const GoldenRow& row);
+
+/// A row's golden parameters, and variants of them that break one condition of the domain at a time.
+std::vector<std::vector<double>> parameters_of(const GoldenRow& row);
+
+/// The first golden point with every one of these parameters, and with every one of these x.
+std::vector<GoldenPoint> points_around(const GoldenRow& row);
+
 /// The largest error accepted for one number of a row.
 double tolerance(const GoldenRow& row, const Expected& expected);
 

@@ -93,6 +93,11 @@ TEST(Parameters, WrongNumbersAreExplained) {
               "circle needs 3 parameters (xc, yc, r), 2 given");
     EXPECT_NE(error_of([] { custom::series().require_size(4); }).find("at most 3"), std::string::npos);
     EXPECT_NE(error_of([] { custom::line().require_size(1); }), "no error");
+    for (const char* name : {"Gauss", "PolyN"}) {
+        EXPECT_EQ(error_of([name] { Model::find(name).require_size(32767); }), "no error") << name;
+    }
+    EXPECT_EQ(error_of([] { Model::find("PolyN").require_size(65539); }),
+              "PolyN takes at most 32767 parameters, 65539 given");
     EXPECT_NE(error_of([] { Model::find("Prunty").require_size(4); }).find("reserved"), std::string::npos);
 }
 

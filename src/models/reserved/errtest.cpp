@@ -1,20 +1,11 @@
-// errtest: a straight line that fails on demand, so that a host can rehearse its error handling.
-//
-//   y = P1 + P2 x
-//
-//   P1 intercept, P2 slope, P3 the rehearsal:
-//     1   the library reports a range error (the exponential of a large number)
-//     2   the library reports a domain error (the logarithm of a negative number)
-//     3   a check of the parameters fails
-//   Each marks y[1] and dyda[1..3], even where the value alone was asked for: pass a dyda with three slots.
-//   Any other P3 leaves the line as it is; its derivative by P3 is always 0.
+// Each rehearsed failure marks y[1] and, on a derivative request, dyda[1..3].
 
 #include "protocol/forms.h"
 
 namespace ansatz::errtest {
 namespace {
 
-bool fails(double rehearsal) {
+bool fails(Scalar rehearsal) {
     if (rehearsal == 1) exp(1000.0);
     // cppcheck-suppress wrongmathcall
     if (rehearsal == 2) log(-1.0);
@@ -24,7 +15,7 @@ bool fails(double rehearsal) {
 
 Status value(const Point& at) {
     const auto [n, P, x, y, dyda] = at;
-    if (fails(P[3])) return fail(at, 1, 2, 3);
+    if (fails(P[3])) return fail(at);
     y[1] = P[1] + P[2] * x[1];
     return success;
 }
@@ -39,9 +30,16 @@ Status derivatives(const Point& at) {
     return success;
 }
 
+/// With both bits, the derivative path alone: it gives the same value, and where it fails it marks every slot.
+struct Form {
+    static Status serve(unsigned flags, const Point& at) {
+        return BothPaths<value, derivatives>::serve(flags & FF_DERIV ? flags & ~(0u + FF_VALUE) : flags, at);
+    }
+};
+
 } // namespace
 
-ANSATZ_MODEL(errtest, BothPaths<value, derivatives>)
+ANSATZ_MODEL(errtest, Form)
 
 ANSATZ_PAGE(errtest, .title = "A straight line that fails on demand", .formula = "y = a + b x",
             .parameters = {{"a", "intercept", Trait::offset},
