@@ -137,9 +137,12 @@ TEST(TestCommand, ReportsEveryOutput) {
     }
 }
 
+void ANSATZ_CALL disturb(std::uint32_t, const char*) {
+    errno = EINTR;
+}
+
 // A callback may well change errno, and so do the estimates of derivatives.
 TEST(TestCommand, LeavesTheErrorIndicatorAsTheModelDid) {
-    const auto disturb = [](std::uint32_t, const char*) { errno = EINTR; };
     const double P[] = {0, 1, 2, 4};
     double x[] = {0, 3}, y[2], dyda[4];
     AnsatzTestRequest request = {"errtest", FF_DERIV, 3, P, x, y, dyda};
