@@ -166,7 +166,7 @@ TEST(Families, AreTheFoldersOfTheModels) {
     std::set<std::string> families, folders;
     for (const GoldenRow& row : golden_rows()) families.insert(row.family);
     for (const auto& entry : std::filesystem::directory_iterator(ANSATZ_TEST_DATA "/../src/models")) {
-        if (entry.is_directory()) folders.insert(entry.path().filename().string());
+        if (entry.is_directory() && !is_empty(entry)) folders.insert(entry.path().filename().string());
     }
     EXPECT_EQ(families, folders);
 }
