@@ -162,6 +162,7 @@ TEST(Families, HaveTheSameModelsAmongTheLawsAndTheCases) {
     EXPECT_EQ(differences, std::vector<std::string>());
 }
 
+#ifndef _WIN32 // where the sources may be out of sight
 TEST(Families, AreTheFoldersOfTheModels) {
     std::set<std::string> families, folders;
     for (const GoldenRow& row : golden_rows()) families.insert(row.family);
@@ -170,6 +171,7 @@ TEST(Families, AreTheFoldersOfTheModels) {
     }
     EXPECT_EQ(families, folders);
 }
+#endif
 
 } // namespace
 } // namespace ansatz::test

@@ -134,9 +134,6 @@ const std::set<std::string> keep_indicator = {"Asymptotic1", "Asymptotic2", "Asy
 /// An overflow on the derivative path leaves it set.
 const std::set<std::string> set_indicator = {"Shah"};
 
-/// The value path marks the derivatives as well.
-const std::set<std::string> mark_derivatives = {"errtest"};
-
 /// A pending domain error scales what dyda[4] held instead of marking it.
 const std::set<std::string> scale_a_slot = {"SWeibull2"};
 
@@ -380,8 +377,7 @@ private:
                    "status");
             const bool value_only =
                 !(flags_ & FF_DERIV) || (flags_ & FF_VALUE && c.form != "both" && c.form != "own");
-            demand(!value_only || untouched(d_now_) || mark_derivatives.contains(c.name),
-                   "wrote a derivative on a value request");
+            demand(!value_only || untouched(d_now_), "wrote a derivative on a value request");
             demand(c.query >= 0 || silent, "a reserved name wrote something");
             const bool refused = c.form == "refuse" && !(flags_ & FF_VALUE);
             if (status_ == failure && c.query >= 0 && !refused)
