@@ -1,7 +1,6 @@
 // What holds for every row of the catalogue, checked in loops over all of them at their golden points.
 
 #include "frame/golden.h"
-#include "frame/listed.h"
 
 #include <gtest/gtest.h>
 
@@ -68,7 +67,7 @@ TEST(Catalogue, EveryRowThatComputesHasGoldenData) {
     std::map<std::string, std::size_t> points; // a row may be stated in two halves
     for (const GoldenRow& row : golden_rows()) points[row.name] += row.points.size();
     for (const auto& [name, count] : points) EXPECT_GE(count, 8u) << name;
-    EXPECT_EQ(points.size() + inert.size(), listed().rows.size());
+    EXPECT_EQ(std::ssize(points) + std::ssize(inert), FuncTest(1, nullptr, nullptr, nullptr));
 }
 
 TEST(Catalogue, ValuesMatchTheIndependentComputation) {

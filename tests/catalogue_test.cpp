@@ -22,9 +22,9 @@ void ANSATZ_CALL keep_line(std::uint32_t, const char* line) {
 TEST(Lookup, FindsEveryRowWithItsDimensionsInOrderAndInAnyCase) {
     ASSERT_EQ(listed().rows.size(), 238u);
     lines.clear();
-    EXPECT_EQ(FuncTest(1, nullptr, keep_line, nullptr), std::ssize(listed().rows));
-    ASSERT_EQ(lines.size(), listed().rows.size());
-    for (std::size_t i = 0; i < lines.size(); ++i) {
+    EXPECT_EQ(FuncTest(1, nullptr, keep_line, nullptr), std::ssize(lines));
+    ASSERT_GE(lines.size(), listed().rows.size()); // later rows come after those that hosts know
+    for (std::size_t i = 0; i < listed().rows.size(); ++i) {
         const ListedRow& row = listed().rows[i];
         SCOPED_TRACE(row.name);
         EXPECT_EQ(lines[i], "type " + row.name);
