@@ -80,7 +80,7 @@ AnsatzBatch batch_of(const Points& points, unsigned request) {
 Results together(const std::string& name, const Points& points, unsigned request, int outputs, int threads) {
     const std::size_t N = points.size(), n = points.P.size();
     Results results;
-    constexpr std::size_t guard = 8; // nothing may be written behind the last row
+    constexpr std::size_t guard = 8; // nothing may be written after the last row
     results.y.assign(N * static_cast<std::size_t>(outputs) + guard, untouched);
     results.jacobian.assign(N * n + guard, untouched);
     results.status.assign(N, -1);

@@ -29,7 +29,7 @@
 namespace ansatz::test {
 namespace {
 
-constexpr int spare = 4; // parameters filled in behind nParams: some models read references there
+constexpr int spare = 4; // parameters filled in after nParams: some models read references there
 
 std::string bits(double v) {
     char text[20];

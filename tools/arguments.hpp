@@ -12,7 +12,7 @@
 
 namespace ansatz::tools {
 
-/// Rewrites arguments so that a list may contain blanks and negative numbers: the values behind --start and its
+/// Rewrites arguments so that a list may contain blanks and negative numbers: the values after --start and its
 /// like are attached to the option, `--start -1 2` becoming `--start=-1,2`, before they can be taken for
 /// options. Values of --x stay apart: each is one point.
 std::vector<std::string> attach_lists(const std::vector<std::string>& arguments);

@@ -20,14 +20,14 @@ void require_writable(const std::string& file);
 
 /// Text as a gnuplot string that shows exactly it, as far as it can be drawn. Bytes other than letters and
 /// blanks are written as \ooo: whatever the text, gnuplot finds nothing in it to interpret or to run. (A digit
-/// behind \ooo would be read as part of it.)
+/// after \ooo would be read as part of it.)
 std::string quoted(const std::string& text);
 
 /// The beginning of a script: a white picture of the file's kind and about this size, with thin axes and a
 /// light grid.
 std::string head(const std::string& file, int width, int height);
 
-/// A named block of data, with a blank line behind every `scan` rows if that is not 0. What is not finite
+/// A named block of data, with a blank line after every `scan` rows if that is not 0. What is not finite
 /// interrupts a curve and leaves a hole in a surface.
 std::string block(std::string_view name, const Eigen::MatrixXd& rows, Eigen::Index scan = 0);
 

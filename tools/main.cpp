@@ -55,7 +55,7 @@ Models of two variables take one pair per point:
 A point at which the model fails is shown as "missing", and the exit status is 1.)";
 
 constexpr const char* fit_footer = R"(
-DATA is a table with commas, semicolons, tabs or blanks between the columns, with or without a header; text behind
+DATA is a table with commas, semicolons, tabs or blanks between the columns, with or without a header; text after
 # is a comment, and --skip passes over text above. The first columns are x, the next y, unless --x and --y name
 others, by header or by number from 1.
 

@@ -147,7 +147,7 @@ Table Table::read(std::istream& in, std::string source, int skip) {
     if (in.bad()) throw Error(fmt::format("cannot read {}", table.source_));
     if (table.lines_.empty()) {
         throw Error(fmt::format("{}: no data{}", table.source_,
-                                skip > 0 ? fmt::format(" behind the {} lines skipped", skip) : ""));
+                                skip > 0 ? fmt::format(" after the {} lines skipped", skip) : ""));
     }
     return table;
 }

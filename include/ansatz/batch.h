@@ -64,7 +64,7 @@ typedef struct AnsatzBatch {
     const double* x[3];
     ptrdiff_t xStride[3];
 
-    /* The outputs. Of point i, y[1] goes to y[i * yStride], y[2] behind it, and so on to y[nY]; those
+    /* The outputs. Of point i, y[1] goes to y[i * yStride], y[2] after it, and so on to y[nY]; those
      * that the model does not write are 0. With nY == 0, y is not used. */
     int32_t nY;
     double* y;

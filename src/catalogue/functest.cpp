@@ -73,7 +73,7 @@ std::int32_t list(const Report& report) {
 constexpr int most_params = 255; // with more there are no estimates
 
 /// The central difference of y[1] by params[k], on copies of the inputs; NaN where the model fails, and for
-/// more parameters than the copy holds. It has room for the models that read behind those supplied.
+/// more parameters than the copy holds. It has room for the models that read after those supplied.
 double central_difference(const FunctionEntry& row, const AnsatzTestRequest& request, int n, int k) {
     if (n > most_params) return std::nan("");
     double P[2 * most_params] = {}, x[4] = {}, y[most_params + 2];

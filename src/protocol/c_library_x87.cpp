@@ -11,7 +11,7 @@
 namespace ansatz::c_library {
 namespace {
 
-/// The binary digits of 2/pi, behind 64 zeros.
+/// The binary digits of 2/pi, after 64 zeros.
 constexpr std::uint32_t two_over_pi[] = {
     0x00000000, 0x00000000, 0xa2f9836e, 0x4e441529, 0xfc2757d1, 0xf534ddc0, 0xdb629599, 0x3c439041,
     0xfe5163ab, 0xdebbc561, 0xb7246e3a, 0x424dd2e0, 0x06492eea, 0x09d1921c, 0xfe1deb1c, 0xb129a73e,

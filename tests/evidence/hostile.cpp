@@ -116,7 +116,7 @@ public:
     }
 
     /// An array of `length` slots addressed from 1, its last slot the last before a fence, or (`low`) its first
-    /// slot the first behind one, so that even its index 0 has none.
+    /// slot the first after one, so that even its index 0 has none.
     double* from_1(int length, bool low) const { return low ? begin_ - 1 : begin_ + capacity - length - 1; }
 
 private:
@@ -138,7 +138,7 @@ const std::set<std::string> set_indicator = {"Shah"};
 const std::set<std::string> scale_a_slot = {"SWeibull2"};
 
 /// How a model whose size follows from nParams counts: (nParams - lead) / size blocks, the last parameter read
-/// being number per blocks + plus. Most have whole blocks behind an offset, {1, size, size, 1}; these are the
+/// being number per blocks + plus. Most have whole blocks after an offset, {1, size, size, 1}; these are the
 /// others.
 struct Counting {
     const char* name;

@@ -22,7 +22,7 @@ Model find(const std::string& name);
 
 inline constexpr int slots = 64;
 
-/// NaNs that no computation makes: what outputs hold before a call, and what stands behind the inputs, so that
+/// NaNs that no computation makes: what outputs hold before a call, and what stands after the inputs, so that
 /// a parameter read beyond those supplied poisons the result.
 inline constexpr std::uint64_t canary_bits = 0x7ffdeadbeefcafe0, poison_bits = 0x7ffabad0bad0bad0;
 inline constexpr double canary = std::bit_cast<double>(canary_bits),

@@ -9,7 +9,7 @@ def richards(P, x):
     return P[1] / (1 + exp(-(P[3] * x + P[2]) / P[4])) ** P[4]
 
 
-# Before and behind the start; rates of either sign.
+# Before and after the start; rates of either sign.
 @row("MnMolecular", form="both", points=draw(5, P=[(1, 4), (-1, 0), (0.5, 1.5)], x=(0.4, 2)) +
      draw(4, P=[(-4, -1), (0, 1), (-1.5, -0.5)], x=(-2, -0.4)) + [([2, 1, 0.75], 0.5)])
 def mn_molecular(P, x):

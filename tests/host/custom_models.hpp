@@ -109,7 +109,7 @@ inline Model expected() {
     return Model::custom("expected", expected_routine, 1, 1, 2, &text);
 }
 
-/// y = sum a_k x^k over as many terms as there are parameters. Deliberately touches a slot behind the last.
+/// y = sum a_k x^k over as many terms as there are parameters. Deliberately touches a slot after the last.
 CUSTOM_ROUTINE(series_routine) {
     if (flags & FF_QUERY_DERIV) return 1;
     double power = 1;

@@ -185,6 +185,6 @@ TEST(Evaluation, TakesSuccessWithoutAValueForFailure) {
     EXPECT_FALSE(evaluate(placeholder, vector({1, 2, 3, 4}), vector({1})).all_ok());
 }
 
-TEST(Evaluation, SurvivesModelsThatReachBehindTheirParameters) {
+TEST(Evaluation, SurvivesModelsThatReachAfterTheirParameters) {
     EXPECT_EQ(evaluate(custom::series(), vector({1, 2, 3}), vector({2}), true).y(0, 0), 17);
 }

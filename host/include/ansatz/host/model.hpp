@@ -63,7 +63,7 @@ public:
 
     int blocks(int n) const;     ///< number of peaks or terms among n parameters; 0 for a model of fixed size
     int slots_used(int n) const; ///< the last slot that a call with n parameters reads or writes
-    int components(int n) const; ///< number of contributions behind y[1]
+    int components(int n) const; ///< number of contributions after y[1]
     std::vector<Slot> slots(int n) const;
 
     /// The index of the slot addressed as "P3", or by its symbol. Throws Error.

@@ -1,7 +1,7 @@
 // Tables of numbers as people keep them: comma-, semicolon-, tab- or blank-separated text.
 //
 // The separator is found from the first line: semicolon, tab, comma, else blanks. The first line is a header
-// when none of its cells is a number, or one is quoted. Text behind # is a comment; blank lines are skipped. In
+// when none of its cells is a number, or one is quoted. Text after # is a comment; blank lines are skipped. In
 // semicolon- and tab-separated tables a number may have a decimal comma.
 #pragma once
 
@@ -22,7 +22,7 @@ std::optional<double> parse_number(std::string_view text);
 
 class Table {
 public:
-    /// Reads a file, or standard input for "-", from behind its first `skip` lines on, which may hold any text.
+    /// Reads a file, or standard input for "-", from after its first `skip` lines on, which may hold any text.
     /// Throws Error with the file's name and the line.
     static Table load(const std::string& path, int skip = 0);
     static Table read(std::istream& in, std::string source, int skip = 0);
