@@ -17,7 +17,7 @@ struct Workload {
     FitFunction function = nullptr;
     const AnsatzBatchModel* batch = nullptr;
     int inputs = 0, outputs = 0;
-    bool derivatives = false;               ///< does the model compute them?
+    bool derivatives = false;               ///< are they computed, whatever a query answers?
     std::vector<double> P = {};             ///< from index 0
     std::vector<double> from = {}, to = {}; ///< the range of each variable
 
