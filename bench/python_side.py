@@ -28,10 +28,10 @@ def law_of(work):
     if not work['formula']:
         return voigt
     names = [f'P{k + 1}' for k in range(len(work['P']))]
-    columns = ['x', 'x2'][:len(work['from'])]
-    source = f"lambda {', '.join(names + columns)}: {work['formula'].replace('^', '**')}"
+    variables = ['x', 'x2'][:len(work['from'])]
     # Two outputs, which a comma separates, are a tuple of columns.
-    law = eval(source.replace(': ', ': (', 1) + ')', FUNCTIONS)  # pylint: disable=eval-used
+    source = f"lambda {', '.join(names + variables)}: ({work['formula'].replace('^', '**')})"
+    law = eval(source, FUNCTIONS)
     return lambda P, *x: law(*P, *x)
 
 
