@@ -1,6 +1,7 @@
 // Whole fits: the same optimiser, the host library's, on the same problems; only the supplier of the
 // derivatives differs.
-#include "rivals.hpp"
+#include "laws.hpp"
+#include "parsed.hpp"
 #include "suites.hpp"
 
 #include <ansatz/host/fit.hpp>
@@ -112,7 +113,7 @@ std::int32_t parsed(std::uint32_t flags, std::uint32_t, std::int32_t, std::uint3
                     const double* P, std::uint32_t, double* x, double* y, double* dyda) {
     if (flags & FF_QUERY_DERIV) return 1;
     formula->set_parameters(P + 1);
-    y[1] = flags & FF_DERIV ? formula->gradient(x[1], 0, dyda + 1) : formula->value(x[1], 0);
+    y[1] = flags & FF_DERIV ? formula->gradient(x[1], 0, dyda + 1) : *formula->values(x[1], 0);
     return 0;
 }
 
