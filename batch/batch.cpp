@@ -33,6 +33,9 @@ constexpr AnsatzBatchModel models[] = {
 bool makes_sense(const AnsatzBatch& b) {
     const bool derivatives = b.request == FF_DERIV;
     if (!derivatives && b.request != FF_VALUE) return false;
+    for (const std::uint64_t asked_for : b.reserved) {
+        if (asked_for != 0) return false;
+    }
     if (b.nParams < 0 || b.nParams > most_params || (b.nParams > 0 && !b.params)) return false;
     if (b.nX < 1 || b.nX > 3) return false;
     if (b.nY < 0 || b.nY > most_params) return false;

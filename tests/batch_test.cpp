@@ -299,6 +299,8 @@ TEST(Batch, RefusesWhatMakesNoSense) {
     EXPECT_TRUE(refused([](AnsatzBatch& b) { b.nY = -1; }));
     EXPECT_TRUE(refused([](AnsatzBatch& b) { b.y = nullptr; }));
     EXPECT_TRUE(refused([](AnsatzBatch& b) { b.jacobian = nullptr; }));
+    EXPECT_TRUE(refused([](AnsatzBatch& b) { b.reserved[0] = 1; }));
+    EXPECT_TRUE(refused([](AnsatzBatch& b) { b.reserved[7] = std::uint64_t{1} << 63; }));
     EXPECT_EQ(ansatz_batch_run(line, &good), 0);
     EXPECT_EQ(y[0], 7);
     EXPECT_EQ(jacobian[1], 3);

@@ -1,10 +1,13 @@
-// The subcommands. Each returns the exit status and throws host::Error for what it cannot work with.
+// The subcommands. Each adds itself to the command line, with its options, and is run where it was chosen.
 #pragma once
 
 #include <ansatz/host/error.hpp>
 
-#include <string>
-#include <vector>
+#include <functional>
+
+namespace CLI {
+class App;
+}
 
 namespace ansatz::tools {
 
@@ -17,32 +20,13 @@ public:
     using Error::Error;
 };
 
-struct ListOptions {
-    std::string pattern;
-    bool json = false;
-};
-int list(const ListOptions& options);
+/// What the arguments ask for. Returns the exit status and throws host::Error for what it cannot work with.
+using Command = std::function<int()>;
 
-struct ShowOptions {
-    std::string model;
-    bool json = false;
-};
-int show(const ShowOptions& options);
-
-struct EvalOptions {
-    std::string model;
-    std::vector<std::string> params, x;
-    bool derivatives = false, json = false;
-};
-int eval(const EvalOptions& options);
-
-struct FitCommandOptions {
-    std::string model, data;
-    std::vector<std::string> start, fix, free, lower, upper, x, y, weights, errors;
-    std::string plot;
-    int skip = 0, max_iterations = 1000;
-    bool known_errors = false, numerical = false, progress = false, json = false;
-};
-int fit(const FitCommandOptions& options);
+// Each adds a subcommand that, where it is chosen, sets `chosen`. This must outlive the parsing.
+void add_list(CLI::App& app, Command& chosen);
+void add_show(CLI::App& app, Command& chosen);
+void add_eval(CLI::App& app, Command& chosen);
+void add_fit(CLI::App& app, Command& chosen);
 
 } // namespace ansatz::tools

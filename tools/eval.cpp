@@ -1,7 +1,7 @@
 // ansatz eval: a model's outputs at given points.
 
 #include "arguments.hpp"
-#include "commands.hpp"
+#include "options.hpp"
 #include "report.hpp"
 
 #include <ansatz/host/evaluate.hpp>
@@ -14,13 +14,28 @@
 namespace ansatz::tools {
 namespace {
 
+constexpr const char* footer = R"(
+Examples, with the parameters in their order, or each by its number or symbol:
+  ansatz eval Gauss --params 0,450,8,4 --x 445,450,455
+  ansatz eval Gauss --params y0=0,xc=450,w=8,A=4 --x 450 --derivatives
+Two peaks, as three more parameters:
+  ansatz eval Gauss --params 0,440,8,4,460,8,2 --x 440 450 460
+Models of two variables take one pair per point:
+  ansatz eval Plane --params 1,2,3 --x 0,0 0,1 1,1
+
+A point at which the model fails is shown as "missing", and the exit status is 1.)";
+
+struct Options {
+    std::string model;
+    std::vector<std::string> params, x;
+    bool derivatives = false, json = false;
+};
+
 std::string indexed(std::string_view name, Eigen::Index index, Eigen::Index count) {
     return count == 1 ? std::string(name) : fmt::format("{}{}", name, index + 1);
 }
 
-} // namespace
-
-int eval(const EvalOptions& options) {
+int eval(const Options& options) {
     const host::Model model = host::Model::find(options.model);
     const auto values = parameter_values(model, parse_items(options.params, "--params"), {}, "--params");
     const Eigen::MatrixXd x = parse_points(model, options.x);
@@ -88,6 +103,21 @@ int eval(const EvalOptions& options) {
                    model.name(), failures - without_value, x.rows());
     }
     return failed;
+}
+
+} // namespace
+
+void add_eval(CLI::App& app, Command& chosen) {
+    auto& command = *app.add_subcommand("eval", "Evaluate a model at given points.");
+    const auto options = std::make_shared<Options>();
+    command.footer(footer);
+    command.add_option("MODEL", options->model, "The model's name")->required();
+    add_lists(command, "--params", options->params, "LIST", "Parameter values: LIST or NAME=VALUE,...")
+        ->required();
+    add_lists(command, "--x", options->x, "LIST", "Points: LIST, or X1,X2 per point of a surface")->required();
+    command.add_flag("--derivatives", options->derivatives, "Add the derivatives by every parameter");
+    command.add_flag("--json", options->json, "Write JSON");
+    run_where_chosen<Options>(command, chosen, options, eval);
 }
 
 } // namespace ansatz::tools

@@ -1,9 +1,9 @@
 // ansatz fit: fits a model to a table.
 
 #include "arguments.hpp"
-#include "commands.hpp"
+#include "fit_report.hpp"
+#include "options.hpp"
 #include "plot.hpp"
-#include "report.hpp"
 
 #include <ansatz/host/fit.hpp>
 #include <ansatz/host/table.hpp>
@@ -21,6 +21,33 @@ namespace {
 
 using host::Error;
 
+constexpr const char* footer = R"(
+DATA is a table with commas, semicolons, tabs or blanks between the columns, with or without a header; text behind
+# is a comment, and --skip passes over text above. The first columns are x, the next y, unless --x and --y name
+others, by header or by number from 1.
+
+Parameters are addressed by number (P3) or by the symbol that `ansatz show MODEL` gives (w). The number of start
+values decides the number of peaks of a model with peaks.
+
+Examples:
+  ansatz fit Gauss eckerle4.csv --start 0,450,10,4 --fix P1=0
+  ansatz fit Gauss eckerle4.csv --start xc=450,w=10,A=4 --fix y0=0 --lower w=0 --plot fit.png
+  ansatz fit Gauss two.csv --start 0,440,8,4,460,8,2 --x time --y signal --errors sd --json
+  ansatz fit Gauss Eckerle4.dat --skip 60 --x 2 --y 1 --start 0,450,10,4
+  ansatz fit Gauss2D map.csv --x east,north --y height --start 0,5,1,1,2,1 --plot map.png
+  ansatz fit Circle points.csv --start 0,0,1       (an implicit curve has no y column)
+  zcat data.gz | ansatz fit Lorentz - --start -1,2,0.5,3
+
+Exit status: 0 success, 1 the fit or the picture failed, or the fit did not converge, 2 wrong usage or input.)";
+
+struct Options {
+    std::string model, data;
+    std::vector<std::string> start, fix, free, lower, upper, x, y, weights, errors;
+    std::string plot;
+    int skip = 0, max_iterations = 1000;
+    bool known_errors = false, numerical = false, progress = false, json = false;
+};
+
 /// The columns of a table that a fit works with.
 struct Columns {
     std::vector<int> x, y, weights, errors;
@@ -33,7 +60,7 @@ std::vector<int> chosen(const host::Table& table, const std::vector<std::string>
 }
 
 /// Columns not named are the first ones that no other option names: x, then y.
-Columns choose_columns(const host::Model& model, const host::Table& table, const FitCommandOptions& options) {
+Columns choose_columns(const host::Model& model, const host::Table& table, const Options& options) {
     Columns columns{chosen(table, options.x), chosen(table, options.y), chosen(table, options.weights),
                     chosen(table, options.errors)};
     std::vector<int> taken;
@@ -87,7 +114,7 @@ std::vector<std::string> names(const host::Table& table, const std::vector<int>&
 }
 
 /// Start values, fixed parameters and bounds from the arguments.
-std::vector<host::Start> read_starts(const host::Model& model, const FitCommandOptions& options) {
+std::vector<host::Start> read_starts(const host::Model& model, const Options& options) {
     const auto fixed = parse_items(options.fix, "--fix");
     const auto given = parse_items(options.start, "--start");
     auto start = host::starts(model, parameter_values(model, given, fixed, "--start"));
@@ -120,154 +147,7 @@ std::function<bool(const host::Progress&)> progress_line(bool wanted) {
     };
 }
 
-/// "y0, w, A": the symbols of the parameters of these indices.
-std::string symbols(const host::Fit& fit, const std::vector<int>& indices) {
-    std::vector<std::string> list;
-    list.reserve(indices.size());
-    for (const int k : indices) list.push_back(fit.parameters[static_cast<std::size_t>(k)].slot.symbol);
-    return fmt::format("{}", fmt::join(list, ", "));
-}
-
-/// A remark where the data of two y columns scatter differently and nothing tells the fit so.
-std::string scatter_remark(const host::Data& data, const host::Fit& fit,
-                           const std::vector<std::string>& columns) {
-    if (data.y.cols() != 2) return "";
-    double scatter[2];
-    for (Eigen::Index d = 0; d < 2; ++d) {
-        const Eigen::VectorXd residuals = data.y.col(d) - fit.fitted.col(d);
-        const bool weighted = data.weights.size() > 0;
-        const Eigen::Index w = weighted ? std::min(d, data.weights.cols() - 1) : 0;
-        scatter[d] =
-            weighted ? residuals.cwiseProduct(data.weights.col(w).cwiseSqrt()).norm() : residuals.norm();
-    }
-    const bool first = scatter[0] > scatter[1];
-    const double low = std::min(scatter[0], scatter[1]), high = std::max(scatter[0], scatter[1]);
-    const bool exact = high <= 1e-9 * data.y.norm();
-    if (exact || !(high > 3 * low)) return "";
-    return fmt::format(
-        "{} scatters {:.0f} times as much as {}, and the fit takes both as equally good: the standard "
-        "errors\nmislead. Give --errors or --weights for each of the two columns.\n\n",
-        host::printable(columns[first ? 0 : 1]), high / low, host::printable(columns[first ? 1 : 0]));
-}
-
-void print_text(const host::Model& model, const host::Fit& fit, const std::string& source,
-                const std::string& scatter) {
-    fmt::print("{}", model.name());
-    if (model.page()) fmt::print(":  {}", model.page()->formula);
-    fmt::print("\n{} points from {}; {} after {} iterations{}\n\n", fit.points, host::printable(source),
-               fit.termination, fit.iterations, fit.numerical ? ", derivatives by differences" : "");
-
-    TextTable table({{"", Align::left},
-                     {"symbol", Align::left},
-                     {"value", Align::right},
-                     {"standard error", Align::right},
-                     {"", Align::left}});
-    for (const host::Estimate& p : fit.parameters) {
-        std::string note = p.slot.meaning;
-        const char* const remark = p.fixed ? "fixed" : p.at_lower ? "at its lower bound" : "at its upper bound";
-        if (p.fixed || p.at_lower || p.at_upper) note += fmt::format("{}({})", note.empty() ? "" : " ", remark);
-        table.add({p.slot.number, p.slot.symbol == p.slot.number ? "" : p.slot.symbol,
-                   fmt::format("{:.10g}", p.value), p.error ? fmt::format("{:.8g}", *p.error) : "-", note});
-    }
-    fmt::print("{}\n", table.text());
-    if (!fit.undetermined.empty()) {
-        fmt::print("No standard errors: the covariance is singular, the data do not determine {}.\n\n",
-                   symbols(fit, fit.undetermined));
-    }
-
-    fmt::print("{}", scatter);
-
-    const auto number = [](std::optional<double> value, int digits) {
-        return value ? fmt::format("{:.{}g}", *value, digits) : std::string("-");
-    };
-    fmt::print("Residual sum of squares  {}\nR squared                {}\nReduced chi-square       {}\n"
-               "Degrees of freedom       {}\n",
-               number(fit.rss, 10), number(fit.r_squared, 10), number(fit.reduced_chi_square, 10),
-               fit.degrees_of_freedom);
-
-    if (fit.varied.size() < 2 || fit.correlation.size() == 0) return;
-    std::vector<std::pair<std::string, Align>> header = {{"", Align::left}};
-    for (const int k : fit.varied) header.emplace_back(symbols(fit, {k}), Align::right);
-    TextTable correlations(header);
-    for (std::size_t i = 0; i < fit.varied.size(); ++i) {
-        std::vector<std::string> row = {symbols(fit, {fit.varied[i]})};
-        for (std::size_t j = 0; j < fit.varied.size(); ++j) {
-            const double r = fit.correlation(static_cast<Eigen::Index>(i), static_cast<Eigen::Index>(j));
-            row.push_back(j > i ? "" : fmt::format("{:.5f}", r));
-        }
-        correlations.add(std::move(row));
-    }
-    fmt::print("\nCorrelations\n{}", correlations.text());
-}
-
-template <class T> Json optional_json(const std::optional<T>& value) {
-    return value ? Json(*value) : Json();
-}
-
-Json matrix_json(const Eigen::MatrixXd& matrix) {
-    Json rows = Json::array();
-    for (Eigen::Index i = 0; i < matrix.rows(); ++i) {
-        Json row = Json::array();
-        for (Eigen::Index j = 0; j < matrix.cols(); ++j) row.push_back(matrix(i, j));
-        rows.push_back(std::move(row));
-    }
-    return rows;
-}
-
-Json fit_json(const host::Model& model, const host::Table& table, const Columns& columns,
-              const std::vector<host::Start>& start, const host::Fit& fit, const std::string& source) {
-    const auto symbol_list = [&](const std::vector<int>& indices) {
-        Json list = Json::array();
-        for (const int k : indices) list.push_back(symbols(fit, {k}));
-        return list;
-    };
-    Json parameters = Json::array();
-    for (std::size_t k = 0; k < start.size(); ++k) {
-        const host::Estimate& p = fit.parameters[k];
-        const auto bound = [](double limit) { return std::isfinite(limit) ? Json(limit) : Json(); };
-        parameters.push_back({{"number", p.slot.number},
-                              {"symbol", p.slot.symbol},
-                              {"meaning", p.slot.meaning},
-                              {"start", p.start},
-                              {"value", p.value},
-                              {"standard_error", optional_json(p.error)},
-                              {"fixed", p.fixed},
-                              {"at_bound", p.at_lower   ? Json("lower")
-                                           : p.at_upper ? Json("upper")
-                                                        : Json()},
-                              {"lower", bound(start[k].lower)},
-                              {"upper", bound(start[k].upper)}});
-    }
-    return {{"model", describe_json(model)},
-            {"data",
-             {{"source", source},
-              {"points", fit.points},
-              {"x", names(table, columns.x)},
-              {"y", names(table, columns.y)},
-              {"weights", names(table, columns.weights)},
-              {"errors", names(table, columns.errors)}}},
-            {"converged", fit.converged},
-            {"termination", fit.termination},
-            {"iterations", fit.iterations},
-            {"evaluations", fit.evaluations},
-            {"seconds", fit.seconds},
-            {"numerical_derivatives", fit.numerical},
-            {"relative_offset", fit.relative_offset},
-            {"parameters", std::move(parameters)},
-            {"residual_sum_of_squares", fit.rss},
-            {"r_squared", optional_json(fit.r_squared)},
-            {"reduced_chi_square", optional_json(fit.reduced_chi_square)},
-            {"free_parameters", fit.free},
-            {"degrees_of_freedom", fit.degrees_of_freedom},
-            {"undetermined", symbol_list(fit.undetermined)},
-            {"varied", symbol_list(fit.varied)},
-            {"covariance", matrix_json(fit.covariance)},
-            {"correlation", matrix_json(fit.correlation)}};
-}
-
-} // namespace
-
-int fit(const FitCommandOptions& options) {
+int fit(const Options& options) {
     const host::Model model = host::Model::find(options.model);
     if (!options.plot.empty()) require_plottable(model, options.plot);
     if (!options.weights.empty() && !options.errors.empty()) throw Error("give either --weights or --errors");
@@ -292,23 +172,50 @@ int fit(const FitCommandOptions& options) {
     const host::Fit result = host::fit(model, data, start, settings);
     if (isatty(STDERR_FILENO) != 0 && result.seconds > 1) fmt::print(stderr, "\r\x1b[K");
 
-    if (options.json) {
-        fmt::print("{}\n", json_text(fit_json(model, table, columns, start, result, source)));
-    } else {
-        print_text(model, result, source, scatter_remark(data, result, names(table, columns.y)));
-    }
+    const ColumnNames named{names(table, columns.x), names(table, columns.y), names(table, columns.weights),
+                            names(table, columns.errors)};
+    const FitReport report = report_of(model, data, start, result, source, named);
+    fmt::print("{}", options.json ? json_text(to_json(report)) + "\n" : to_text(report));
     std::fflush(stdout);
-    if (!options.plot.empty()) {
-        plot({model,
-              data,
-              result,
-              deviations,
-              {names(table, columns.x), names(table, columns.y)},
-              options.plot});
-    }
+    if (!options.plot.empty()) plot({model, data, result, deviations, {named.x, named.y}, options.plot});
     if (result.converged) return done;
     fmt::print(stderr, "ansatz: the fit did not converge: {}\n", result.termination);
     return failed;
+}
+
+} // namespace
+
+void add_fit(CLI::App& app, Command& chosen) {
+    auto& command = *app.add_subcommand("fit", "Fit a model to data.");
+    const auto options = std::make_shared<Options>();
+    command.footer(footer);
+    command.add_option("MODEL", options->model, "The model's name")->required();
+    command.add_option("DATA", options->data, "The file of data, or - for standard input")->required();
+    const auto lists = [&](const char* name, std::vector<std::string>& values, const char* type,
+                           const char* help) { return add_lists(command, name, values, type, help); };
+    lists("--start", options->start, "LIST", "Start values: LIST or NAME=VALUE,...")->required();
+    lists("--fix", options->fix, "NAME[=VALUE]", "Hold a parameter at a value, or at its start value");
+    lists("--free", options->free, "NAME", "Estimate a reference position, fixed otherwise");
+    lists("--lower", options->lower, "NAME=VALUE", "Lower bound of a parameter");
+    lists("--upper", options->upper, "NAME=VALUE", "Upper bound of a parameter");
+    lists("--x", options->x, "COLUMN[,..]", "Columns of the independent variables");
+    lists("--y", options->y, "COLUMN[,..]", "Columns of the dependent variables");
+    lists("--weights", options->weights, "COLUMN", "Column of weights");
+    lists("--errors", options->errors, "COLUMN", "Column of standard deviations: weights are 1/sd^2");
+    command.add_option("--skip", options->skip, "Skip so many lines of text above the table")
+        ->check(CLI::NonNegativeNumber)
+        ->type_name("NUMBER");
+    command.add_flag("--known-errors", options->known_errors,
+                     "Take --errors as known: do not scale standard errors by the scatter found");
+    command.add_flag("--numerical", options->numerical, "Take derivatives by differences");
+    command.add_option("--max-iterations", options->max_iterations, "Give up after so many")
+        ->capture_default_str()
+        ->check(CLI::NonNegativeNumber)
+        ->type_name("NUMBER");
+    command.add_option("--plot", options->plot, "Draw the fit, with gnuplot")->type_name("FILE.svg|png");
+    command.add_flag("--progress", options->progress, "Tell of a long fit even without a terminal");
+    command.add_flag("--json", options->json, "Write JSON");
+    run_where_chosen<Options>(command, chosen, options, fit);
 }
 
 } // namespace ansatz::tools

@@ -1,6 +1,6 @@
 // ansatz list: the catalogue, by family.
 
-#include "commands.hpp"
+#include "options.hpp"
 #include "report.hpp"
 
 #include <fmt/format.h>
@@ -14,6 +14,20 @@
 namespace ansatz::tools {
 namespace {
 
+constexpr const char* footer = R"(
+Examples:
+  ansatz list               all models
+  ansatz list gauss         names that contain "gauss", in any mix of upper and lower case
+  ansatz list 'exp*'        names that begin with "exp"
+  ansatz list --json        for scripts
+
+The columns x and y give the numbers of independent and of dependent variables.)";
+
+struct Options {
+    std::string pattern;
+    bool json = false;
+};
+
 std::string lower(std::string text) {
     for (char& c : text) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
     return text;
@@ -26,9 +40,7 @@ bool matches(const std::string& name, const std::string& pattern) {
     return fnmatch(wanted.c_str(), folded.c_str(), 0) == 0;
 }
 
-} // namespace
-
-int list(const ListOptions& options) {
+int list(const Options& options) {
     std::map<std::string_view, std::vector<host::Model>> found;
     for (const std::string& name : host::model_names()) {
         if (!matches(name, options.pattern)) continue;
@@ -64,6 +76,17 @@ int list(const ListOptions& options) {
     }
     if (options.json) fmt::print("{}\n", json_text(json));
     return done;
+}
+
+} // namespace
+
+void add_list(CLI::App& app, Command& chosen) {
+    auto& command = *app.add_subcommand("list", "List the models, by family.");
+    const auto options = std::make_shared<Options>();
+    command.footer(footer);
+    command.add_option("PATTERN", options->pattern, "Part of a name, or a pattern with * and ?");
+    command.add_flag("--json", options->json, "Write JSON");
+    run_where_chosen<Options>(command, chosen, options, list);
 }
 
 } // namespace ansatz::tools

@@ -1,12 +1,21 @@
 // ansatz show: all that is known about one model.
 
-#include "commands.hpp"
+#include "options.hpp"
 #include "report.hpp"
 
 #include <fmt/format.h>
 
 namespace ansatz::tools {
 namespace {
+
+constexpr const char* footer = R"(
+Example:
+  ansatz show Lorentz)";
+
+struct Options {
+    std::string model;
+    bool json = false;
+};
 
 /// The text in lines of at most this many characters, broken at blanks.
 std::string wrapped(std::string_view text, std::size_t width = 96) {
@@ -20,9 +29,7 @@ std::string wrapped(std::string_view text, std::size_t width = 96) {
     return lines.append(text);
 }
 
-} // namespace
-
-int show(const ShowOptions& options) {
+int show(const Options& options) {
     const host::Model model = host::Model::find(options.model);
     if (options.json) {
         fmt::print("{}\n", json_text(describe_json(model)));
@@ -61,6 +68,17 @@ int show(const ShowOptions& options) {
     if (model.components(n) > 0) fmt::print("Components   one per {}, without the offset\n", text->block_name);
     if (!text->notes.empty()) fmt::print("\n{}\n", wrapped(text->notes));
     return done;
+}
+
+} // namespace
+
+void add_show(CLI::App& app, Command& chosen) {
+    auto& command = *app.add_subcommand("show", "Show a model's formula, parameters and limits.");
+    const auto options = std::make_shared<Options>();
+    command.footer(footer);
+    command.add_option("MODEL", options->model, "The model's name")->required();
+    command.add_flag("--json", options->json, "Write JSON");
+    run_where_chosen<Options>(command, chosen, options, show);
 }
 
 } // namespace ansatz::tools

@@ -1,5 +1,7 @@
 #include <ansatz/host/evaluate.hpp>
 
+#include "usable.hpp"
+
 #include <fmt/format.h>
 
 #include <algorithm>
@@ -13,10 +15,6 @@ constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 
 std::size_t size(auto n) {
     return static_cast<std::size_t>(n);
-}
-
-bool usable(double value) {
-    return std::isfinite(value) && value != MISSING_VALUE;
 }
 
 } // namespace
@@ -121,58 +119,6 @@ bool Evaluator::differentiate(int output_from) {
         if (!differentiate(output_from, k)) return false;
     }
     return true;
-}
-
-bool ColumnEvaluator::serves(const Model& model, int parameters, Derivatives source) {
-    return model.batch() && parameters <= ANSATZ_BATCH_MOST_PARAMS && source == Derivatives::best &&
-           model.analytic() && model.outputs() == 1;
-}
-
-ColumnEvaluator::ColumnEvaluator(const Model& model, const Eigen::MatrixXd& x, int parameters)
-    : x_(x), by_point_(model, Eigen::VectorXd::Zero(parameters)), model_(model.batch()), y_(x.rows()),
-      jacobian_(x.rows(), parameters), value_status_(size(x.rows())), status_(size(x.rows())) {
-    batch_.nParams = parameters;
-    batch_.nPoints = size(x.rows());
-    batch_.nX = model.inputs();
-    for (int i = 0; i < model.inputs(); ++i) {
-        batch_.x[i] = x.col(i).data();
-        batch_.xStride[i] = 1;
-    }
-    batch_.jacobian = jacobian_.data();
-    batch_.jacobianStride = parameters;
-}
-
-Eigen::Index ColumnEvaluator::compute(const Eigen::VectorXd& parameters) {
-    batch_.params = parameters.data();
-    batch_.request = FF_VALUE; // the derivative path may differ from it in the last digits of y
-    batch_.nY = 1;
-    batch_.y = y_.data();
-    batch_.yStride = 1;
-    batch_.status = value_status_.data();
-    ansatz_batch_run(model_, &batch_);
-    jacobian_.setZero(); // a model leaves the slots of a skipped peak untouched
-    batch_.request = FF_DERIV;
-    batch_.nY = 0;
-    batch_.status = status_.data();
-    ansatz_batch_run(model_, &batch_);
-
-    bool looked = false;
-    for (Eigen::Index i = 0; i < y_.size(); ++i) {
-        if (usable_at(i)) continue;
-        if (!looked) by_point_.set_parameters(parameters);
-        looked = true;
-        if (!by_point_.derivatives(x_, i)) return i;
-        y_[i] = by_point_.y(0);
-        for (Eigen::Index k = 0; k < jacobian_.cols(); ++k)
-            jacobian_(i, k) = by_point_.derivative(0, static_cast<int>(k));
-    }
-    return -1;
-}
-
-bool ColumnEvaluator::usable_at(Eigen::Index point) const {
-    if (value_status_[size(point)] != 0 || status_[size(point)] != 0 || !usable(y_[point])) return false;
-    const double* const row = jacobian_.row(point).data();
-    return std::all_of(row, row + jacobian_.cols(), usable);
 }
 
 bool Evaluation::all_ok() const {

@@ -73,6 +73,12 @@
 
 #include <stdint.h>
 
+/* While the first number is 0, a change of the second may break a caller. */
+#define ANSATZ_VERSION "0.1.0"
+#define ANSATZ_VERSION_MAJOR 0
+#define ANSATZ_VERSION_MINOR 1
+#define ANSATZ_VERSION_PATCH 0
+
 #ifdef __cplusplus
 extern "C" {
 #endif

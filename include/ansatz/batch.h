@@ -83,14 +83,17 @@ typedef struct AnsatzBatch {
      * alone, and more than 64 mean 64. They are started for the call, which pays from some ten thousand points
      * on. */
     int32_t threads;
+
+    /* For what later versions may ask for. All 0: this one refuses what it does not know. */
+    uint64_t reserved[8];
 } AnsatzBatch;
 
 /* Finds a model by its name in the catalogue, in any mix of upper and lower case; null for an unknown name. */
 ANSATZ_API const AnsatzBatchModel* ANSATZ_CALL ansatz_batch_find(const char* name);
 
 /* Computes all points. Returns how many of them failed, or -1, with nothing written, for a batch that makes no
- * sense: a null model, another request, a null pointer or a number out of range (of points, PTRDIFF_MAX). With
- * no points at all, columns, outputs and the Jacobian may be null.
+ * sense: a null model, another request, a null pointer, a number out of range (of points, PTRDIFF_MAX) or
+ * something reserved. With no points at all, columns, outputs and the Jacobian may be null.
  *
  * A point that failed has what a single call leaves behind: MISSING_VALUE in y and in the derivative slots
  * concerned. The surfaces, which mark x[2] in a single call, mark y here. */

@@ -2,6 +2,7 @@
 
 #include "custom_models.hpp"
 #include "eckerle4.hpp"
+#include "source.hpp"
 
 #include <ansatz/host/fit.hpp>
 
@@ -263,6 +264,18 @@ TEST(Failure, AtTheStartNamesThePoint) {
     }
 }
 
+TEST(Failure, OfTheWeightsAloneNamesNoPoint) {
+    Data data{.x = vector({1, 2, 3}), .y = vector({1, 2, 4}), .weights = vector({1, 1, 1})};
+    data.weights(1) = std::numeric_limits<double>::infinity(); // the inverse square of a deviation of 1e-200
+    try {
+        fit(custom::line(), data, starts(custom::line(), {0, 0}));
+        FAIL();
+    } catch (const FitError& error) {
+        EXPECT_NE(std::string(error.what()).find("weighted residuals of line"), std::string::npos)
+            << error.what();
+    }
+}
+
 TEST(Failure, WithoutConvergenceIsSaid) {
     const Model gauss = Model::find("Gauss");
     EXPECT_FALSE(fit(gauss, eckerle4(), starts(gauss, {0, 450, 10, 4}), {.max_iterations = 2}).converged);
@@ -305,8 +318,8 @@ TEST(Columns, GiveTheFitThatSingleCallsGive) {
                                       std::pair{"GaussAmp", std::vector{0.0, 452.0, 5.0, 0.4}}}) {
         const Model model = Model::find(name);
         const Model custom = Model::custom(name, model.function(), 1, 1, 4, model.page());
-        ASSERT_TRUE(ColumnEvaluator::serves(model, 4, Derivatives::best));
-        ASSERT_FALSE(ColumnEvaluator::serves(custom, 4, Derivatives::best));
+        ASSERT_TRUE(ColumnSource::serves(model, 4, Derivatives::best));
+        ASSERT_FALSE(ColumnSource::serves(custom, 4, Derivatives::best));
         const Fit together = fit(model, eckerle4(), starts(model, guess));
         const Fit singly = fit(custom, eckerle4(), starts(custom, guess));
         EXPECT_TRUE(together.converged);
@@ -323,19 +336,19 @@ TEST(Columns, LookCloserWhereADerivativeIsMissing) {
     const Model model = Model::find("Power0");
     const Eigen::MatrixXd x = vector({-1, 0.5, 2});
     const Eigen::VectorXd P = vector({1, 0.5, 2, 3});
-    ColumnEvaluator columns(model, x, 4);
+    ColumnSource columns(model, x, 4);
     EXPECT_EQ(columns.compute(P), -1);
     Evaluator by_point(model, P);
     for (Eigen::Index i = 0; i < 3; ++i) {
         ASSERT_TRUE(by_point.derivatives(x, i));
-        EXPECT_EQ(columns.y()[i], by_point.y(0));
+        EXPECT_EQ(columns.y()(i, 0), by_point.y(0));
         for (int k = 0; k < 4; ++k)
-            EXPECT_EQ(columns.derivative(i, k), by_point.derivative(0, k)) << i << ", P" << k + 1;
+            EXPECT_EQ(columns.jacobian()(i, k), by_point.derivative(0, k)) << i << ", P" << k + 1;
     }
 }
 
 TEST(Columns, NameTheFirstPointThatFails) {
     const Eigen::MatrixXd x = vector({1, 2, -1, 3, -2}); // Hill fails for x < 0
-    ColumnEvaluator columns(Model::find("Hill"), x, 3);
+    ColumnSource columns(Model::find("Hill"), x, 3);
     EXPECT_EQ(columns.compute(vector({1, 2, 1.5})), 2);
 }

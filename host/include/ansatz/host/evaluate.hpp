@@ -51,33 +51,6 @@ private:
     Eigen::MatrixXd jacobian_;            // outputs x parameters
 };
 
-/// A model of one output with derivatives of its own, at all rows of x at once: what a fit spends its time on.
-class ColumnEvaluator {
-public:
-    static bool serves(const Model& model, int parameters, Derivatives source);
-
-    /// `x` must outlive this.
-    ColumnEvaluator(const Model& model, const Eigen::MatrixXd& x, int parameters);
-
-    /// Computes y and the Jacobian at every point, as an Evaluator does. Returns the first point that fails, or
-    /// -1.
-    Eigen::Index compute(const Eigen::VectorXd& parameters);
-
-    const Eigen::VectorXd& y() const { return y_; }
-    double derivative(Eigen::Index point, Eigen::Index parameter) const { return jacobian_(point, parameter); }
-
-private:
-    bool usable_at(Eigen::Index point) const;
-
-    const Eigen::MatrixXd& x_;
-    Evaluator by_point_; // for the points that need a closer look
-    AnsatzBatch batch_ = {};
-    const AnsatzBatchModel* model_;
-    Eigen::VectorXd y_;
-    Eigen::Matrix<double, Eigen::Dynamic, Eigen::Dynamic, Eigen::RowMajor> jacobian_;
-    std::vector<std::int32_t> value_status_, status_;
-};
-
 /// A model's outputs for N points and P parameters.
 struct Evaluation {
     Eigen::MatrixXd y;                     ///< N x outputs; NaN where the model fails
