@@ -22,7 +22,7 @@ namespace {
 using host::Error;
 
 constexpr const char* footer = R"(
-DATA is a table with commas, semicolons, tabs or blanks between the columns, with or without a header; text behind
+DATA is a table with commas, semicolons, tabs or blanks between the columns, with or without a header; text after
 # is a comment, and --skip passes over text above. The first columns are x, the next y, unless --x and --y name
 others, by header or by number from 1.
 

@@ -15,10 +15,13 @@ struct FunctionEntry {
     FitFunction function;
 };
 
-inline constexpr int catalogue_size = 0
-#define ENTRY(name, nIndep, nDep, nParams, routine) +1
+constexpr int count_rows() {
+    int rows = 0;
+#define ENTRY(name, nIndep, nDep, nParams, routine) ++rows;
 #include "catalogue/models.inc"
-    ;
+    return rows;
+}
+inline constexpr int catalogue_size = count_rows();
 extern const FunctionEntry FunctionCatalogue[catalogue_size];
 
 /// The first row of this name, in any mix of upper and lower case; null when there is none.
