@@ -65,8 +65,9 @@ protected:
     }
 
     Outcome run(const std::string& arguments, const std::string& before = "") const {
-        const std::string line = "cd '" + directory_.string() + "' && " + before + " '" ANSATZ_COMMAND "' " +
-                                 arguments + " >out 2>err";
+        const char* const other = std::getenv("ANSATZ_COMMAND"); // to be tested in place of the one built
+        const std::string line = "cd '" + directory_.string() + "' && " + before + " '" +
+                                 (other ? other : ANSATZ_COMMAND) + "' " + arguments + " >out 2>err";
         const int status = std::system(line.c_str());
         return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, read("out"), read("err")};
     }
@@ -178,6 +179,43 @@ TEST_F(Command, ChoosesColumnsAndWeights) {
     const auto free = nlohmann::json::parse(run("fit Lorentz peak.csv --errors 1 --start 0,4,2,1 --json").out);
     EXPECT_EQ(free["data"]["x"][0], "signal");
     EXPECT_EQ(free["data"]["y"][0], "position");
+}
+
+TEST_F(Command, WeighsAndBoundsALineAsItsClosedFormSays) {
+    write("line.csv", "x,y,sd,w\n1,1.5,1,1\n2,2,0.5,4\n3,4,2,0.25\n5,5,4,0.0625\n");
+    const double x[] = {1, 2, 3, 5}, y[] = {1.5, 2, 4, 5}, w[] = {1, 4, 0.25, 0.0625};
+    double Sw = 0, Sx = 0, Sy = 0, Sxx = 0, Sxy = 0, Syy = 0;
+    for (int i = 0; i < 4; ++i) {
+        Sw += w[i], Sx += w[i] * x[i], Sy += w[i] * y[i];
+        Sxx += w[i] * x[i] * x[i], Sxy += w[i] * x[i] * y[i], Syy += w[i] * y[i] * y[i];
+    }
+    const double D = Sw * Sxx - Sx * Sx, a = (Sxx * Sy - Sx * Sxy) / D, b = (Sw * Sxy - Sx * Sy) / D;
+    const double rss = Syy - a * Sy - b * Sxy;
+    const auto fitted = [&](const std::string& options) {
+        return nlohmann::json::parse(run("fit Line line.csv --json " + options).out);
+    };
+    for (const auto& [options, scale] :
+         {std::pair{"--errors sd", rss / 2}, {"--weights w", rss / 2}, {"--errors sd --known-errors", 1.0}}) {
+        const auto json = fitted(std::string("--start 0,1 ") + options);
+        EXPECT_NEAR(json["parameters"][0]["value"].get<double>(), a, 1e-12) << options;
+        EXPECT_NEAR(json["parameters"][1]["value"].get<double>(), b, 1e-12) << options;
+        EXPECT_NEAR(json["parameters"][1]["standard_error"].get<double>(), std::sqrt(scale * Sw / D), 1e-12)
+            << options;
+        EXPECT_NEAR(json["covariance"][0][1].get<double>(), -scale * Sx / D, 1e-12) << options;
+        EXPECT_NEAR(json["r_squared"].get<double>(), 1 - rss / (Syy - Sy * Sy / Sw), 1e-12) << options;
+        EXPECT_TRUE(json["parameters"][1]["at_bound"].is_null()) << options;
+    }
+    for (const auto& [side, other, bound] : {std::tuple{"upper", "lower", "0.25"}, {"lower", "upper", "4"}}) {
+        const std::string option = std::string("--weights w --start 0,") + bound + " --" + side + " b=" + bound;
+        const auto json = fitted(option);
+        EXPECT_EQ(json["parameters"][1]["at_bound"], side);
+        EXPECT_EQ(json["parameters"][1][side], std::stod(bound));
+        EXPECT_TRUE(json["parameters"][1][other].is_null());
+        EXPECT_TRUE(json["parameters"][0]["at_bound"].is_null());
+        EXPECT_NEAR(json["parameters"][0]["value"].get<double>(), (Sy - std::stod(bound) * Sx) / Sw, 1e-12);
+        EXPECT_NE(run("fit Line line.csv " + option).out.find(std::string("(at its ") + side + " bound)"),
+                  std::string::npos);
+    }
 }
 
 TEST_F(Command, ReadsStandardInput) {

@@ -57,6 +57,12 @@ struct Regression {
         a = (Sxx * Sy - Sx * Sxy) / D;
         b = (Sw * Sxy - Sx * Sy) / D;
     }
+
+    /// The weighted sum of squares about a line.
+    double about(double intercept, double slope) const {
+        const auto left = data.y.array() - intercept - slope * data.x.array();
+        return (data.weights.array() * left.square()).sum();
+    }
 };
 
 } // namespace
@@ -83,7 +89,10 @@ TEST(Certified, Eckerle4WithNumericalDerivatives) {
 TEST(Weights, GiveTheClosedFormOfAWeightedLine) {
     const Regression line;
     const Fit result = fit(custom::line(), line.data, starts(custom::line(), {0, 0}));
-    const double scale = *result.reduced_chi_square;
+    const double rss = line.about(line.a, line.b), scale = rss / 2;
+    expect_relative(result.rss, rss, 1e-12, "residual sum of squares");
+    expect_relative(*result.reduced_chi_square, scale, 1e-12, "reduced chi-square");
+    expect_relative(*result.r_squared, 1 - rss / line.about(line.Sy / line.Sw, 0), 1e-12, "R squared");
     expect_relative(result.parameters[0].value, line.a, 1e-13, "intercept");
     expect_relative(result.parameters[1].value, line.b, 1e-13, "slope");
     expect_relative(*result.parameters[0].error, std::sqrt(scale * line.Sxx / line.D), 1e-12,
@@ -101,6 +110,32 @@ TEST(Weights, OfZeroRemoveAPoint) {
     EXPECT_EQ(fit(custom::line(), line.data, starts(custom::line(), {0, 0})).degrees_of_freedom, 1);
     line.data.weights(3, 0) = -1;
     EXPECT_THROW(fit(custom::line(), line.data, starts(custom::line(), {0, 0})), Error);
+}
+
+TEST(Weights, OfEachOutputAreItsOwn) {
+    // Exact data but for one value in each column, which its own weight takes out.
+    const Eigen::VectorXd x = Eigen::VectorXd::LinSpaced(9, 0, 4);
+    Eigen::MatrixXd y(9, 2), weights = Eigen::MatrixXd::Ones(9, 2);
+    y << (1 + 0.5 * x.array()).matrix(), (3 * (-0.5 * x.array()).exp()).matrix();
+    y(5, 0) = -7, weights(5, 0) = 0;
+    y(2, 1) = 1000, weights(2, 1) = 0;
+    const Fit result =
+        fit(custom::pair(), {.x = x, .y = y, .weights = weights}, starts(custom::pair(), {0, 0.1, 1}));
+    EXPECT_EQ(result.degrees_of_freedom, 13);
+    EXPECT_LT((result.values() - vector({1, 0.5, 3})).norm(), 1e-9);
+}
+
+TEST(Bounds, AreNotPassedByTheLastSteps) {
+    // Bounds so close before the slope sought that the search stands still there.
+    const Regression line;
+    for (int k = 0; k < 60; ++k) {
+        const double gap = line.b * std::pow(10, -6 - 0.1 * k);
+        auto below = starts(custom::line(), {0, 0}), above = starts(custom::line(), {0, 2});
+        below[1].upper = line.b - gap;
+        above[1].lower = line.b + gap;
+        EXPECT_LE(fit(custom::line(), line.data, below).parameters[1].value, below[1].upper) << k;
+        EXPECT_GE(fit(custom::line(), line.data, above).parameters[1].value, above[1].lower) << k;
+    }
 }
 
 TEST(Bounds, HoldTheSlopeAndLeaveItsErrorOut) {
@@ -134,33 +169,34 @@ TEST(ReferencePositions, StayWhereTheyAreSet) {
     expect_relative(result.parameters[1].value, line.a + 2 * line.b, 1e-11, "expected response");
 }
 
-TEST(TwoOutputs, AreFittedJointly) {
-    const Eigen::VectorXd x = Eigen::VectorXd::LinSpaced(9, 0, 4);
-    Eigen::MatrixXd y(9, 2);
-    y.col(0) = 1 + 0.5 * x.array();
-    y.col(1) = 3 * (-0.5 * x.array()).exp();
-    const Fit result = fit(custom::pair(), {.x = x, .y = y}, starts(custom::pair(), {0, 0.1, 1}));
-    EXPECT_EQ(result.residuals, 18);
-    expect_relative(result.parameters[0].value, 1, 1e-9, "P1");
-    expect_relative(result.parameters[1].value, 0.5, 1e-9, "P2, in both columns");
-    expect_relative(result.parameters[2].value, 3, 1e-9, "P3");
-}
-
-TEST(Implicit, CircleThroughItsPoints) {
-    Eigen::MatrixXd x(7, 2);
-    for (int i = 0; i < 7; ++i) x.row(i) << 1 + 3 * std::cos(i), 2 + 3 * std::sin(i);
-    const Fit result = fit(custom::circle(), {.x = x}, starts(custom::circle(), {0, 0, 1}));
-    expect_relative(result.parameters[0].value, 1, 1e-9, "centre");
-    expect_relative(result.parameters[1].value, 2, 1e-9, "centre");
-    expect_relative(std::fabs(result.parameters[2].value), 3, 1e-9, "radius");
-    EXPECT_FALSE(result.r_squared);
-}
-
 TEST(Covariance, OfARedundantModelIsRefusedByName) {
     const Regression line;
     const Fit result = fit(custom::redundant(), line.data, starts(custom::redundant(), {0, 0, 0}));
     EXPECT_EQ(result.undetermined, (std::vector<int>{0, 1}));
     for (const Estimate& parameter : result.parameters) EXPECT_FALSE(parameter.error);
+}
+
+// The farther the data of a line lie from 0, the less its slope can be told from its intercept. The smallest
+// singular value is about the spread of x over its distance.
+TEST(Covariance, IsRefusedOnlyWhereRoundingDecides) {
+    const struct {
+        double distance;
+        Derivatives derivatives;
+        bool determined;
+    } cases[] = {{1e6, Derivatives::numerical, true},
+                 {1e10, Derivatives::numerical, false},
+                 {1e10, Derivatives::best, true},
+                 {4e15, Derivatives::best, false}};
+    for (const auto& [distance, derivatives, determined] : cases) {
+        const Data data{.x = vector({distance, distance + 1, distance + 2, distance + 3}),
+                        .y = vector({1, 3, 2, 4})};
+        const Fit result =
+            fit(custom::line(), data, starts(custom::line(), {0, 0}), {.derivatives = derivatives});
+        EXPECT_EQ(result.undetermined.empty(), determined) << distance;
+        EXPECT_EQ(result.parameters[1].error.has_value(), determined) << distance;
+        // By the textbook: slope 0.8, residual sum of squares 1.8, spread of x 5.
+        if (determined) expect_relative(*result.parameters[1].error, std::sqrt(0.9 / 5), 1e-4, "error");
+    }
 }
 
 TEST(Runaway, FromABoldFirstStepIsTriedAgainWithCare) {
@@ -338,4 +374,23 @@ TEST(Columns, NameTheFirstPointThatFails) {
     const Eigen::MatrixXd x = vector({1, 2, -1, 3, -2}); // Hill fails for x < 0
     ColumnEvaluator columns(Model::find("Hill"), x, 3);
     EXPECT_EQ(columns.compute(vector({1, 2, 1.5})), 2);
+}
+
+TEST(Columns, KeepNothingOfTheEvaluationBefore) {
+    // A peak of amplitude 0 writes none of its derivatives.
+    const Model model = Model::find("InvsPoly");
+    const Eigen::MatrixXd x = vector({-1, 0.5, 2});
+    const Eigen::VectorXd peak = vector({1, 0, 2, 3, 1, 0.5, 0.2}), none = vector({1, 0, 2, 0, 1, 0.5, 0.2});
+    ColumnEvaluator columns(model, x, 7);
+    Evaluator by_point(model, peak);
+    EXPECT_EQ(columns.compute(peak), -1);
+    ASSERT_TRUE(by_point.derivatives(x, 1));
+    EXPECT_NE(columns.derivative(1, 3), 0);
+    by_point.set_parameters(none);
+    EXPECT_EQ(columns.compute(none), -1);
+    ASSERT_TRUE(by_point.derivatives(x, 1));
+    for (int k = 0; k < 7; ++k) {
+        EXPECT_EQ(columns.derivative(1, k), k == 0) << "P" << k + 1;
+        EXPECT_EQ(by_point.derivative(0, k), k == 0) << "P" << k + 1;
+    }
 }
