@@ -71,6 +71,11 @@ TEST(Descriptions, BelongToTheCatalogueAndAgreeWithItsDimensions) {
     }
 }
 
+TEST(Descriptions, AreFoundInAnyCase) {
+    ASSERT_TRUE(describe("Gauss").text);
+    EXPECT_EQ(describe("gAUSS").text, describe("Gauss").text);
+}
+
 TEST(Parameters, AreNumberedByPeakOnlyWithSeveralPeaks) {
     const Model gauss = Model::find("Gauss");
     EXPECT_EQ(symbols(gauss, 4), (std::vector<std::string>{"y0", "xc", "w", "A"}));
@@ -148,6 +153,26 @@ TEST(Evaluation, TakesDifferencesWhereAModelHasNoTrueDerivatives) {
     EXPECT_NEAR(logarithm.jacobian[0](0, 1), -0.5, 1e-9);
     const auto asymptotic = evaluate(Model::find("Asymptotic5"), vector({2, 1, 5}), vector({0}), true);
     EXPECT_NEAR(asymptotic.jacobian[0](0, 2), 1, 1e-9);
+}
+
+TEST(Evaluation, TakesDifferencesOnTheScaleOfTheParameter) {
+    const auto slope =
+        evaluate(Model::find("Line"), vector({0.3, -1e9}), vector({0.7}), true, Derivatives::numerical);
+    EXPECT_NEAR(slope.jacobian[0](0, 1), 0.7, 1e-9);
+    // Once rounding decides about the difference, narrower steps are of no use: a value and two pairs are
+    // enough.
+    static int calls = 0;
+    const FitFunction all_but_flat = [](std::uint32_t flags, std::uint32_t, std::int32_t, std::uint32_t,
+                                        std::uint32_t, const double* P, std::uint32_t, double*, double* y,
+                                        double*) -> std::int32_t {
+        calls += (flags & FF_VALUE) != 0;
+        y[1] = 1 + 1e-9 * P[1];
+        return 0;
+    };
+    const Model model = Model::custom("all but flat", all_but_flat, 1, 1, 1);
+    calls = 0;
+    EXPECT_NEAR(evaluate(model, vector({1}), vector({0}), true).jacobian[0](0, 0), 1e-9, 1e-11);
+    EXPECT_EQ(calls, 5);
 }
 
 TEST(Evaluation, FillsADerivativeThatASuccessLeavesOpen) {
