@@ -33,7 +33,7 @@ protected:
         write("few.csv", "1 2\n2 3\n3 4\n");
         write("peak.csv", "sd;signal;position\n1;3;-2\n1;4;-1\n1;6;0\n1;4;1\n2;3;2\n2;2.5;3\n");
         write("empty.csv", "");
-        std::string surface = "east north height\n", circle = "east north\n", pair = "time warm loud\n",
+        std::string surface = "east north height\n", circle = "east north\n", pair = "time warm loud even\n",
                     own = "dose depth uptake yield\n";
         for (int i = 0; i < 36; ++i) {
             const double t = 0.1 * i, wave = 0.01 * std::cos(7.0 * i);
@@ -45,7 +45,7 @@ protected:
             };
             surface += line({x, y, 1 + 2 * x - y + wave});
             circle += line({3 + (2 + wave) * std::cos(t), 1 + (2 + wave) * std::sin(t)});
-            pair += line({t, 1 + 2 * t + wave, 500 + 900 * std::exp(-t) + 1000 * wave});
+            pair += line({t, 1 + 2 * t + wave, 500 + 900 * std::exp(-t) + 1000 * wave, 1});
             own += line({t, 2 * t, 9 * t / (2 + t) + wave, (1 + t) / 3 - wave});
         }
         write("surface.txt", surface);
@@ -108,6 +108,8 @@ TEST_F(Command, RefusesWithOneClearLine) {
         {"fit Gauss e.csv --start 0,450,10", 2, "4 or 7 parameters and so on, 3 given"},
         {"fit Gauss e.csv --start 0,450,wide,4", 2, "--start: 'wide' is not a number"},
         {"fit Gauss e.csv --start xc=450,w=10", 2, "--start: no value for y0, A"},
+        {"eval Gauss --params y0=0,xc=1,w=1,A=1,Q=2 --x 1", 2,
+         "the parameters are P1 or y0, P2 or xc, P3 or w"},
         {"fit Gauss e.csv --start 0,450,10,4 --fix Q=0", 2,
          "unknown parameter 'Q'; the parameters are P1 or y0"},
         {"fit Gauss e.csv --start 0,450,10,4 --lower w", 2, "--lower: give NAME=NUMBER"},
@@ -141,6 +143,7 @@ TEST_F(Command, HelpsEverywhere) {
         EXPECT_EQ(outcome.err, "") << arguments;
     }
     EXPECT_TRUE(run("--version").out.starts_with("ansatz "));
+    EXPECT_NE(run("fit --help").out.find("--upper NAME=VALUE "), std::string::npos);
 }
 
 TEST_F(Command, FitsTheExample) {
@@ -218,6 +221,85 @@ TEST_F(Command, WeighsAndBoundsALineAsItsClosedFormSays) {
     }
 }
 
+TEST_F(Command, PrintsAlignedTables) {
+    EXPECT_EQ(run("eval Line --params 1,2 --x 3 0.5 --derivatives").out, "  x  y  dy/da  dy/db\n"
+                                                                         "  3  7      1      3\n"
+                                                                         "0.5  2      1    0.5\n");
+    // Of these data the sum of squares is 1.8 about the line and 5 about the mean; the spread of x is 5.
+    write("four.csv", "x,y\n0,1\n1,3\n2,2\n3,4\n");
+    const std::string fit = run("fit Line four.csv --start 0,0").out;
+    EXPECT_TRUE(fit.starts_with("Line:  y = a + b x\n4 points from four.csv; converged")) << fit;
+    EXPECT_TRUE(fit.ends_with("      symbol  value  standard error\n"
+                              "  P1  a         1.3      0.79372539  intercept\n"
+                              "  P2  b         0.8      0.42426407  slope\n\n"
+                              "Residual sum of squares  1.8\n"
+                              "R squared                0.64\n"
+                              "Reduced chi-square       0.9\n"
+                              "Degrees of freedom       2\n\n"
+                              "Correlations\n"
+                              "            a        b\n"
+                              "  a   1.00000\n"
+                              "  b  -0.80178  1.00000\n"))
+        << fit;
+    EXPECT_TRUE(run("list LORENT?")
+                    .out.starts_with("Peaks\n"
+                                     "  model    x  y  parameters      formula\n"
+                                     "  Lorentz  1  1  1 + 3 per peak  y = "));
+    const std::string show = run("show gauss").out;
+    EXPECT_TRUE(show.starts_with("Gauss  (Peaks)\n\n  y = ")) << show;
+    for (const char* part :
+         {"\nParameters (1 + 3 per peak)\n      symbol  meaning\n  P1  y0      offset\n",
+          "  With several peaks the symbols are numbered: xc1, xc2, ...\n",
+          "\nx columns    1\ny columns    1\nDerivatives  analytic\nComponents   one per peak"}) {
+        EXPECT_NE(show.find(part), std::string::npos) << part << show;
+    }
+}
+
+TEST_F(Command, WritesEverythingIntoJson) {
+    const auto json = nlohmann::json::parse(
+        run("fit Lorentz peak.csv --x position --y signal --errors sd --start 2,0,2,10 --json").out);
+    const nlohmann::json data = {{"source", "peak.csv"},
+                                 {"points", 6},
+                                 {"x", {"position"}},
+                                 {"y", {"signal"}},
+                                 {"weights", nlohmann::json::array()},
+                                 {"errors", {"sd"}}};
+    EXPECT_EQ(json["data"], data);
+    EXPECT_EQ(json["free_parameters"], 4);
+    EXPECT_EQ(json["degrees_of_freedom"], 2);
+    EXPECT_EQ(json["varied"], (nlohmann::json{"y0", "xc", "w", "A"}));
+    EXPECT_NEAR(json["residual_sum_of_squares"].get<double>() / json["reduced_chi_square"].get<double>(), 2,
+                1e-12);
+    for (const char* key : {"converged", "termination", "iterations", "evaluations", "seconds", "covariance",
+                            "numerical_derivatives", "relative_offset", "correlation", "undetermined"}) {
+        EXPECT_TRUE(json.contains(key)) << key;
+    }
+    const struct {
+        const char* name;
+        int inputs, outputs, parameters;
+        bool analytic, replicated, implicit, reserved;
+    } models[] = {{"Gauss", 1, 1, 4, true, true, false, false},
+                  {"Circle", 2, 1, 3, false, false, true, false},
+                  {"LineExp", 1, 2, 5, false, false, false, false}};
+    for (const auto& [name, inputs, outputs, parameters, analytic, replicated, implicit, reserved] : models) {
+        const auto shown = nlohmann::json::parse(run(std::string("show --json ") + name).out);
+        EXPECT_EQ(shown["name"], name);
+        EXPECT_EQ(shown["inputs"], inputs) << name;
+        EXPECT_EQ(shown["outputs"], outputs) << name;
+        EXPECT_EQ(shown["default_parameters"], parameters) << name;
+        EXPECT_EQ(shown["analytic_derivatives"], analytic) << name;
+        EXPECT_EQ(shown["replicated"], replicated) << name;
+        EXPECT_EQ(shown["implicit"], implicit) << name;
+        EXPECT_EQ(shown["reserved"], reserved) << name;
+        EXPECT_EQ(shown.contains("block"), replicated) << name;
+    }
+    // The number of peaks follows from the names.
+    const auto two = nlohmann::json::parse(
+        run("eval Gauss --params y0=1,xc1=450,w1=8,A1=4,xc2=900,w2=8,A2=2 --x 450 --json").out)["points"][0];
+    EXPECT_NEAR(two["y"].get<double>(), 1 + 4 / (8 * std::sqrt(M_PI / 2)), 1e-12);
+    EXPECT_EQ(two["peak2"], 0.0);
+}
+
 TEST_F(Command, ReadsStandardInput) {
     EXPECT_EQ(run("fit Gauss - --start 0,450,10,4 <e.csv").status, 0);
 }
@@ -274,7 +356,14 @@ TEST_F(Command, DrawsEveryShape) {
 
 TEST_F(Command, TellsOfColumnsThatScatterDifferently) {
     const std::string fit = "fit LineExp pair.txt --start 1,1,500,900,-1";
-    EXPECT_NE(run(fit).out.find("times as much as warm"), std::string::npos) << run(fit).out;
+    // The scatter of the one is that of the other a thousandfold, but for what the parameters take up.
+    for (const char* weights : {"", " --weights even"}) {
+        const std::string out = run(fit + weights).out;
+        const auto remark = out.find("loud scatters ");
+        ASSERT_NE(remark, std::string::npos) << out;
+        EXPECT_NEAR(std::stod(out.substr(remark + 14)), 1000, 200) << weights;
+        EXPECT_NE(out.find(" times as much as warm"), std::string::npos) << out;
+    }
     write("equal.csv", "x,u,v\n0,1,9.01\n1,2.01,5\n2,2.99,3.01\n3,4.01,2\n4,5,1.5\n");
     EXPECT_EQ(run("fit LineExp equal.csv --start 1,1,1,8,-1.5").out.find("scatters"), std::string::npos);
 }

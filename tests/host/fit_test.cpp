@@ -314,11 +314,19 @@ TEST(Failure, ShortOfAMinimumIsNoConvergence) {
     EXPECT_FALSE(stuck.converged);
     EXPECT_NEAR(stuck.relative_offset, 1, 0.01);
     EXPECT_NE(stuck.termination.find("numerical"), std::string::npos) << stuck.termination;
-    const auto start = starts(custom::misleading(), {0});
+    auto start = starts(custom::misleading(), {0});
+    start[0].upper = 0; // going on from the bound leads nowhere either, and is not tried for ever
+    EXPECT_EQ(fit(custom::misleading(), data, start).termination, stuck.termination);
+    start = starts(custom::misleading(), {0});
     EXPECT_TRUE(fit(custom::misleading(), data, start, {.derivatives = Derivatives::numerical}).converged);
-    // Exact data leave nothing but rounding in the residuals, in whatever direction.
+    // Exact data leave nothing but rounding in the residuals, in whatever direction, from near and from far.
     const Data exact{.x = vector({1, 2, 3}), .y = vector({1.1, 2.2, 3.3})};
-    EXPECT_TRUE(fit(custom::line(), exact, starts(custom::line(), {0, 0})).converged);
+    const Data zero{.x = exact.x, .y = vector({0, 0, 0})};
+    for (const auto& guess : {std::vector{0.0, 0.0}, {5.0, 3.0}, {1e-9, 1.1}}) {
+        EXPECT_TRUE(fit(custom::line(), exact, starts(custom::line(), guess)).converged) << guess[0];
+        EXPECT_TRUE(fit(custom::line(), zero, starts(custom::line(), guess)).converged) << guess[0];
+    }
+    EXPECT_EQ(fit(custom::line(), zero, starts(custom::line(), {0, 0})).relative_offset, 0);
 }
 
 TEST(Failure, OfTheRequestIsAnError) {
