@@ -353,17 +353,19 @@ TEST(Batch, StartsAsManyThreadsAsAreWantedAndOfUse) {
     startable = 1000;
 }
 
-TEST(Batch, RefusesAFourthColumn) {
+TEST(Batch, NeedsNoParametersAndRefusesAFourthColumn) {
     const double one = 1;
     double y = 0;
     AnsatzBatch batch = {};
     batch.request = FF_VALUE;
     batch.nPoints = 1;
-    batch.nX = 4;
+    batch.nX = 1;
     batch.x[0] = batch.x[1] = batch.x[2] = &one;
     batch.xStride[0] = 1;
     batch.nY = 1;
     batch.y = &y;
+    EXPECT_EQ(ansatz_batch_run(ansatz_batch_find("Line"), &batch), 0);
+    batch.nX = 4;
     EXPECT_EQ(ansatz_batch_run(ansatz_batch_find("Line"), &batch), -1);
 }
 

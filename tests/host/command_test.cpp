@@ -136,11 +136,18 @@ TEST_F(Command, RefusesWithOneClearLine) {
 }
 
 TEST_F(Command, HelpsEverywhere) {
-    for (const char* arguments : {"--help", "list --help", "show --help", "eval --help", "fit --help"}) {
-        const Outcome outcome = run(arguments);
-        EXPECT_EQ(outcome.status, 0) << arguments;
-        EXPECT_NE(outcome.out.find("Example"), std::string::npos) << arguments;
-        EXPECT_EQ(outcome.err, "") << arguments;
+    const struct {
+        const char *command, *example;
+    } cases[] = {{"", "ansatz COMMAND --help"},
+                 {"list ", "names that begin with"},
+                 {"show ", "ansatz show Lorentz"},
+                 {"eval ", "--x 0,0 0,1 1,1"},
+                 {"fit ", "zcat data.gz | ansatz fit"}};
+    for (const auto& [command, example] : cases) {
+        const Outcome outcome = run(std::string(command) + "--help");
+        EXPECT_EQ(outcome.status, 0) << command;
+        EXPECT_NE(outcome.out.find(example), std::string::npos) << command;
+        EXPECT_EQ(outcome.err, "") << command;
     }
     EXPECT_TRUE(run("--version").out.starts_with("ansatz "));
     EXPECT_NE(run("fit --help").out.find("--upper NAME=VALUE "), std::string::npos);
@@ -154,7 +161,7 @@ TEST_F(Command, FitsTheExample) {
     EXPECT_NEAR(json["parameters"][1]["standard_error"].get<double>(), 4.6800518816e-2, 1e-10);
     EXPECT_TRUE(json["parameters"][0]["standard_error"].is_null());
     EXPECT_EQ(json["data"]["y"][0], "transmittance");
-    const Outcome text = run("fit gauss e.csv --start 0,450,10,4 --fix P1=0");
+    const Outcome text = run("fit gauss e.csv --start 0,450,10,4 --fix y0");
     EXPECT_NE(text.out.find("451.5412184"), std::string::npos) << text.out;
     EXPECT_NE(text.out.find("(fixed)"), std::string::npos);
 }
@@ -205,6 +212,7 @@ TEST_F(Command, WeighsAndBoundsALineAsItsClosedFormSays) {
         EXPECT_NEAR(json["parameters"][1]["standard_error"].get<double>(), std::sqrt(scale * Sw / D), 1e-12)
             << options;
         EXPECT_NEAR(json["covariance"][0][1].get<double>(), -scale * Sx / D, 1e-12) << options;
+        EXPECT_EQ(json["covariance"][0].size(), 2) << options;
         EXPECT_NEAR(json["r_squared"].get<double>(), 1 - rss / (Syy - Sy * Sy / Sw), 1e-12) << options;
         EXPECT_TRUE(json["parameters"][1]["at_bound"].is_null()) << options;
     }
@@ -225,6 +233,7 @@ TEST_F(Command, PrintsAlignedTables) {
     EXPECT_EQ(run("eval Line --params 1,2 --x 3 0.5 --derivatives").out, "  x  y  dy/da  dy/db\n"
                                                                          "  3  7      1      3\n"
                                                                          "0.5  2      1    0.5\n");
+    EXPECT_EQ(run("eval Plane --params 1,2,3 --x 1,2").out, "x1  x2  y\n 1   2  9\n");
     // Of these data the sum of squares is 1.8 about the line and 5 about the mean; the spread of x is 5.
     write("four.csv", "x,y\n0,1\n1,3\n2,2\n3,4\n");
     const std::string fit = run("fit Line four.csv --start 0,0").out;
@@ -364,6 +373,15 @@ TEST_F(Command, TellsOfColumnsThatScatterDifferently) {
         EXPECT_NEAR(std::stod(out.substr(remark + 14)), 1000, 200) << weights;
         EXPECT_NE(out.find(" times as much as warm"), std::string::npos) << out;
     }
+    // What is but rounding of the data is no scatter.
+    std::ostringstream rounded;
+    rounded.precision(17);
+    for (int i = 0; i < 12; ++i) {
+        const double t = 0.3 * i, wave = 1e-9 * std::cos(7.0 * i);
+        rounded << t << " " << 1 + 2 * t + wave << " " << 500 + 900 * std::exp(-t) + 100 * wave << "\n";
+    }
+    write("rounded.txt", rounded.str());
+    EXPECT_EQ(run("fit LineExp rounded.txt --start 1,1,500,900,-1").out.find("scatters"), std::string::npos);
     write("equal.csv", "x,u,v\n0,1,9.01\n1,2.01,5\n2,2.99,3.01\n3,4.01,2\n4,5,1.5\n");
     EXPECT_EQ(run("fit LineExp equal.csv --start 1,1,1,8,-1.5").out.find("scatters"), std::string::npos);
 }

@@ -138,7 +138,7 @@ TEST(Bounds, AreNotPassedByTheLastSteps) {
     }
 }
 
-TEST(Bounds, HoldTheSlopeAndLeaveItsErrorOut) {
+TEST(Bounds, HoldAParameterAndLeaveItsErrorOut) {
     const Regression line; // its slope is above 0.9
     auto start = starts(custom::line(), {0, 0});
     start[1].upper = 0.5;
@@ -148,6 +148,16 @@ TEST(Bounds, HoldTheSlopeAndLeaveItsErrorOut) {
     EXPECT_FALSE(result.parameters[1].error);
     expect_relative(result.parameters[0].value, (line.Sy - 0.5 * line.Sx) / line.Sw, 1e-12, "intercept");
     EXPECT_TRUE(result.parameters[0].error);
+
+    auto above = starts(custom::line(), {2, 0});
+    above[0].lower = 1;
+    const Fit lifted = fit(custom::line(), line.data, above);
+    EXPECT_EQ(lifted.parameters[0].value, 1);
+    EXPECT_TRUE(lifted.parameters[0].at_lower);
+    EXPECT_FALSE(lifted.parameters[0].at_upper || lifted.parameters[1].at_lower);
+    expect_relative(lifted.parameters[1].value, (line.Sxy - line.Sx) / line.Sxx, 1e-12, "slope");
+    expect_relative(*lifted.parameters[1].error, std::sqrt(*lifted.reduced_chi_square / line.Sxx), 1e-12,
+                    "error");
 }
 
 TEST(Bounds, ThatNothingReachesChangeNothing) {

@@ -45,6 +45,7 @@ TEST(Table, ReadsEveryDialectAlike) {
 TEST(Table, FindsColumnsByNameAndNumber) {
     const Table table = read("time;\"signal, \"\"raw\"\" #1\";2\n1;2;3\n");
     EXPECT_EQ(table.name(1), "signal, \"raw\" #1");
+    EXPECT_EQ(read("\"t\" ; \" s \"\n1;2\n").name(1), " s ") << "blanks within quotes belong to a name";
     EXPECT_EQ(table.column("TIME"), 0);
     EXPECT_EQ(table.column("signal, \"raw\" #1"), 1);
     EXPECT_EQ(table.column("3"), 2);
