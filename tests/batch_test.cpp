@@ -350,7 +350,12 @@ TEST(Batch, StartsAsManyThreadsAsAreWantedAndOfUse) {
         EXPECT_EQ(started, expected) << threads << " threads for " << points;
         EXPECT_EQ(results.y, std::vector<double>(points, 7)) << threads << " threads for " << points;
     }
-    startable = 1000;
+    // Rows with room for all that the model writes, and more parameters than it takes.
+    const std::vector<double> column(50000, 2.0);
+    started = 0, startable = 1000;
+    together("Gaussian2D", {.P = {1, 5, 2, 1.2, 1.8, 0.5, 0.6, 0, 0, 0}, .x = {column, column}}, FF_DERIV, 1,
+             4);
+    EXPECT_EQ(started, 3);
 }
 
 TEST(Batch, NeedsNoParametersAndRefusesAFourthColumn) {
