@@ -438,3 +438,58 @@ TEST(Batch, NeedsNeitherValuesNorStatuses) {
 
 } // namespace
 } // namespace ansatz::test
+
+// The threads that are started, counted; the first `startable` of them can be.
+#include <dlfcn.h>
+#include <pthread.h>
+
+static int started = 0, startable = 1000;
+
+extern "C" int pthread_create(pthread_t* thread, const pthread_attr_t* attributes, void* (*routine)(void*),
+                              void* argument) noexcept {
+    if (started >= startable) return EAGAIN;
+    ++started;
+    static const auto create = reinterpret_cast<decltype(&pthread_create)>(dlsym(RTLD_NEXT, "pthread_create"));
+    return create(thread, attributes, routine, argument);
+}
+
+namespace ansatz::test {
+
+TEST(Batch, StartsAsManyThreadsAsAreWantedAndOfUse) {
+    const struct {
+        std::size_t points;
+        int threads, startable, started;
+    } cases[] = {{50000, 4, 99, 3}, {50000, 1000, 99, 63}, {50000, 1, 99, 0}, {50000, -1, 99, 0},
+                 {10, 4, 99, 0},    {50000, 4, 1, 1},      {50000, 4, 0, 0}};
+    for (const auto& [points, threads, can, expected] : cases) {
+        Points all{.P = {1, 2}, .x = {std::vector<double>(points, 3.0)}};
+        started = 0, startable = can;
+        const Results results = together("Line", all, FF_DERIV, 1, threads);
+        EXPECT_EQ(started, expected) << threads << " threads for " << points;
+        EXPECT_EQ(results.y, std::vector<double>(points, 7)) << threads << " threads for " << points;
+    }
+    // Rows with room for all that the model writes, and more parameters than it takes.
+    const std::vector<double> column(50000, 2.0);
+    started = 0, startable = 1000;
+    together("Gaussian2D", {.P = {1, 5, 2, 1.2, 1.8, 0.5, 0.6, 0, 0, 0}, .x = {column, column}}, FF_DERIV, 1,
+             4);
+    EXPECT_EQ(started, 3);
+}
+
+TEST(Batch, NeedsNoParametersAndRefusesAFourthColumn) {
+    const double one = 1;
+    double y = 0;
+    AnsatzBatch batch = {};
+    batch.request = FF_VALUE;
+    batch.nPoints = 1;
+    batch.nX = 1;
+    batch.x[0] = batch.x[1] = batch.x[2] = &one;
+    batch.xStride[0] = 1;
+    batch.nY = 1;
+    batch.y = &y;
+    EXPECT_EQ(ansatz_batch_run(ansatz_batch_find("Line"), &batch), 0);
+    batch.nX = 4;
+    EXPECT_EQ(ansatz_batch_run(ansatz_batch_find("Line"), &batch), -1);
+}
+
+} // namespace ansatz::test

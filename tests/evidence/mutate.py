@@ -1,22 +1,25 @@
-"""Makes small faults in the library's sources, one at a time, and runs the tests against each.
+"""Makes small faults in the sources, one at a time, and runs the tests against each.
 
     scripts/mutate                all of them; writes the figures into docs/evidence.md
-    scripts/mutate --sample 40    so many, spread evenly; fails unless each is caught or explained
-    scripts/mutate FILE ..        those in some files, one line per fault
+    scripts/mutate --sample 40    so many, from all folders; fails unless each is caught or explained
+    scripts/mutate FILE ..        those in some files, one line per fault that no test sees
     --show                        lists every fault, made in the sources as a diff would show it
 
 The choice is the same in every run. A fault that no test sees is either explained in equivalent.txt beside this
-file - it changes nothing that a host can observe - or a gap in the tests.
+file - it changes nothing that a user can observe - or a gap in the tests.
 """
 
 import argparse
 import concurrent.futures
+import itertools
 import json
 import os
 import pathlib
 import random
 import re
+import resource
 import shlex
+import signal
 import subprocess
 import sys
 import tempfile
@@ -26,7 +29,25 @@ from section import replace
 
 root = pathlib.Path(__file__).resolve().parents[2]
 build = root / "build/release"
+
+# How many faults: per file of the library, by folder, and one per so many lines of what surrounds it.
 per_file = {"models": 3, "special": 6, "protocol": 8, "catalogue": 4}
+lines_per_fault = {"host": 16, "tools": 16, "batch": 6}
+left_out = ("src/protocol/host_arithmetic.h", # for Windows only, where its own tests run
+            "host/descriptions/")             # texts
+sample_share = {"src": 0.5, "host": 0.15, "tools": 0.2, "batch": 0.15}
+
+# What a fault in a folder is tried with, in this order: a program and its tests. Slow ones come last.
+command_tests = [("tests/host/command_tests", "-*Draw*"), ("tests/host/command_tests", "*Draw*")]
+suites = {
+    # The test of the export list reads the built library, not this one.
+    "src": [("tests/models_test", "-SharedLibrary.*:*ExtrapolatedDifferences"),
+            ("tests/models_test", "*ExtrapolatedDifferences"), ("tests/inside_test", "*")],
+    "host": [("tests/host/host_tests", "*"), *command_tests],
+    "tools": command_tests,
+    "batch": [("tests/batch_test", "*"), ("tests/host/host_tests", "*")],
+}
+runs = {"tests/host/command_tests": "tools/ansatz"} # which program a test starts
 
 # Kinds of faults: a pattern in a line of code, and what takes its place.
 code = re.compile(r'"(?:\\.|[^"\\])*"|//.*')
@@ -78,6 +99,40 @@ kinds = [
         (".query = 0", ".query = 1"), (".query = 1", ".query = 0"))),
     ("form", r"\b(BothPaths|OnePath)(?=<)", to(("BothPaths", "OnePath"), ("OnePath", "BothPaths"))),
 ]
+# Faults of what surrounds the models: the general ones of these, and some that fit options, tables and weights.
+general = ("sign", "product for quotient", "comparison", "condition", "constant", "statement dropped", "function",
+           "answer")
+value = r"[*&]?[\w.:]+(?:->\w+|\[\w+\]|\(\))*"
+opposites = to(*(pair for a, b in (("lower", "upper"), ("low", "high"), ("minCoeff", "maxCoeff"), ("left", "right"),
+                                   ("top", "bottom"), ("wide", "narrow")) for pair in ((a, b), (b, a))))
+
+
+def half_exponent(match):
+    digits, exponent = match.group().split("e")
+    return "%se%d" % (digits, int(exponent) // 2)
+
+
+outer_kinds = [k for k in kinds if k[0] in general] + [
+    ("constant", r"(?<![\w.])\d+(?:\.\d+)?e-?\d+", half_exponent),
+    ("constant", r"(?<=\[)\d+(?=\])", next_digit),
+    ("arguments exchanged", r"(?<=[(,{\[ ])(?<!max\()(?<!min\()(%s), (%s)(?=[,)}\]])" % (value, value),
+     lambda m: "%s, %s" % (m[2], m[1])),
+    ("arguments exchanged", r"\b((?:const )?[\w:]+[&*]? )(\w+), \1(\w+)(?=[,)])",
+     lambda m: "%s%s, %s%s" % (m[1], m[3], m[1], m[2])),
+    ("argument dropped", r"(?<=, )\w+\.[\w.]+(?=[,)}])", lambda m: "{}"),
+    ("option dropped", r"->(?!type_name|capture_default_str)\w+\([\w:.]*\)(?=$|;|->)", lambda m: ""),
+    ("entry dropped", r"^\s+\{.*\},$", lambda m: ""),
+    ("condition", r"(?<=\bif )\((.*)\) (?=\{$|return\b|throw\b|continue;|break;)", lambda m: "(!(%s)) " % m[1]),
+    ("condition", r"(?<=[( ])!(?=[\w(])", lambda m: ""),
+    ("statement dropped", r"^\s+(?!return\b|throw\b|if\b|for\b|while\b)[\w:.*>-]+(?:[\[(.]| [-+*/|]?= ).*;$",
+     lambda m: ";"),
+    ("statement dropped", r"^\s+(?:if|for|while) \(.*\) (?!return\b|continue;).*;$", lambda m: ";"),
+    ("opposite", r"\b(?:lower|upper|low|high|minCoeff|maxCoeff|left|right|top|bottom|wide|narrow)(?=\d?\b)|"
+                 r"(?<=\bat_)(?:lower|upper)\b", opposites),
+    ("factor dropped", r"(?<![\w.)])[\w.]+(?:\([\w, .]*\))? \* (?=[\w(])| [*/] [\w.]+(?:\([\w, .]*\))?(?=[;,) ])",
+     lambda m: ""),
+    ("factor dropped", r"\.cwise\w+\([\w.()]*?\)", lambda m: ""),
+]
 assigned = re.compile(r"^(\s+(?:dyda|d)\[)([^\]]+)(\] = .*)$")
 
 
@@ -103,17 +158,22 @@ class Mutant:
 
 def candidates(path):
     """Every fault of every kind that this file allows, by kind."""
-    lines = (root / path).read_text().split("\n")
+    text = (root / path).read_text()
+    lines = text.split("\n")
+    passed_over = {k for m in re.finditer(r'R"\(.*?\)"', text, re.S)
+                   for k in range(text.count("\n", 0, m.start()), text.count("\n", 0, m.end()) + 1)}
     found = {}
     for k, line in enumerate(lines):
-        if re.match(r"\s*(#|//|template|namespace|using|static_assert|extern)", line):
+        if k in passed_over or re.match(r"\s*(#|//|template|namespace|using|static_assert|extern)", line):
             continue
         hidden = [m.span() for m in code.finditer(line)]
-        for kind, pattern, replacement in kinds:
+        for kind, pattern, replacement in kinds if path.startswith("src/") else outer_kinds:
             for m in re.finditer(pattern, line):
                 if any(a <= m.start() < b for a, b in hidden):
                     continue
                 new = line[:m.start()] + replacement(m) + line[m.end():]
+                if new == line:
+                    continue
                 found.setdefault(kind, []).append(Mutant(path, kind, k, [line], [new]))
         if k + 1 < len(lines):
             first, second = assigned.match(line), assigned.match(lines[k + 1])
@@ -144,7 +204,7 @@ def run(command, **options):
 
 
 class Build:
-    """What the release build compiled, and from what."""
+    """What the release build compiled, from what, and how it linked the programs that test."""
 
     def __init__(self):
         deps = run(["ninja", "-C", build, "-t", "deps"], text=True).stdout
@@ -157,98 +217,135 @@ class Build:
                 self.users.setdefault(os.path.relpath(dep, root), []).append(target)
         commands = json.loads((build / "compile_commands.json").read_text())
         self.command = {re.search(r" -o (\S+) ", c["command"]).group(1): c for c in commands}
-        self.library = sorted(o for o in self.command if "ansatz_release_objects" in o)
-        self.inside = sorted(o for o in self.command if "inside_test.dir" in o)
+        programs = {program for suite in suites.values() for program, _ in suite} | set(runs.values())
+        self.link = {}
+        for line in run(["ninja", "-C", build, "-t", "commands", *sorted(programs)], text=True).stdout.split("\n"):
+            for command in line.split(" && "):
+                made = re.search(r" -o (\S+)|^\S*ar qc (\S+)", command)
+                if made and " -c " not in command and ".ld" not in made.group():
+                    self.link[made.group(1) or made.group(2)] = shlex.split(command)
 
     def source(self, output):
         return os.path.relpath(self.command[output]["file"], root)
 
-    def compile(self, output, text_of, into, level):
-        """Compiles one object, or with a list of them one object of all, from mutated sources."""
-        outputs = output if isinstance(output, list) else [output]
-        words = shlex.split(self.command[outputs[0]]["command"])
-        words = words[:words.index("-o")]
-        words = [w for w in words if not w.startswith(("-O", "-W", "-I" + str(root / "src")))]
-        overlay = into / "overlay"
-        for path, text in text_of.items():
-            target = overlay / os.path.relpath(path, "src")
-            target.parent.mkdir(parents=True, exist_ok=True)
-            target.write_text(text)
-        sources = [overlay / os.path.relpath(self.source(o), "src") if self.source(o) in text_of
-                   else root / self.source(o) for o in outputs]
-        whole = sources[0]
+
+class Trial:
+    """A copy of the sources, by links, with a fault in it, and what is made from it: objects, libraries, programs."""
+
+    def __init__(self, project, path, text, level, folder):
+        self.project, self.level, self.folder = project, level, pathlib.Path(folder)
+        self.sources = self.folder / "sources"
+        for top in ("include", "src", "pages", "host", "tools", "batch", "tests"):
+            for place, _, names in os.walk(root / top):
+                copy = self.sources / os.path.relpath(place, root)
+                copy.mkdir(parents=True)
+                for name in names:
+                    if name.endswith((".cpp", ".h", ".hpp", ".inc", ".inl")):
+                        os.symlink(os.path.join(place, name), copy / name)
+        (self.sources / path).unlink()
+        (self.sources / path).write_text(text)
+        self.users = set(project.users.get(path, []))
+        # Many models that use a header are compiled as one source.
+        objects = "ansatz_batch_loops" if path.startswith("batch/") else "ansatz_release_objects"
+        library = sorted(o for o in self.users if objects in o)
+        self.as_one = library if len(library) > 3 else []
+        self.ready = {}
+
+    def compile(self, outputs, level):
+        """Compiles one object of one source or of several."""
+        words = shlex.split(self.project.command[outputs[0]]["command"])
+        words = [w.replace("-I%s/" % root, "-I") for w in words[:words.index("-o")] if not w.startswith(("-O", "-W"))]
+        sources = [self.project.source(o) for o in outputs]
         if len(sources) > 1:
-            whole = into / "whole.cpp"
-            whole.write_text("".join('#include "%s"\n' % s for s in sources))
-        object_file = into / (re.sub(r"\W", "_", outputs[0]) + ".o")
-        done = run(words + ["-w", level, "-I", overlay, "-I", root / "src", "-o", object_file, "-c", whole])
-        return object_file if done.returncode == 0 else None
+            (self.sources / "whole.cpp").write_text("".join('#include "%s"\n' % s for s in sources))
+            sources = ["whole.cpp"]
+        made = self.folder / (re.sub(r"\W", "_", outputs[0]) + level + ".o")
+        done = run(words + ["-w", level, "-o", made, "-c", sources[0]], cwd=self.sources)
+        if done.returncode != 0:
+            raise DoesNotCompile(outputs[0])
+        return str(made)
+
+    def made(self, target):
+        """Where this target is, made again if the fault is in it. None for an object that is part of another one."""
+        if target not in self.ready:
+            self.ready[target] = self.make(target)
+        return self.ready[target]
+
+    def make(self, target):
+        if target in self.as_one:
+            return self.compile(self.as_one, "-O0") if target == self.as_one[0] else None
+        if target in self.users and target in self.project.command:
+            return self.compile([target], self.level)
+        words = self.project.link.get(target)
+        if not words:
+            return target
+        inputs = [w if w == target else self.made(w) for w in words]
+        if inputs == words:
+            return target
+        name = re.search(r"-Wl,-soname,(\S+)", " ".join(words))
+        made = str(self.folder / (name.group(1) if name else os.path.basename(target)))
+        if run([made if w == target else w for w in inputs if w], cwd=build).returncode != 0:
+            raise DoesNotCompile("the link of " + target)
+        return made
 
 
-def test(mutant, project, level="-O1"):
+class DoesNotCompile(Exception):
+    pass
+
+
+def level(path):
+    return "-O1" if path.startswith("src/") else "-O0"
+
+
+def test(mutant, project):
     """Sets mutant.caught to True or False, or leaves it None where the fault does not compile."""
-    users = project.users.get(mutant.path, []) or [o for o in project.command if project.source(o) == mutant.path]
-    library = [o for o in project.library if o in users]
-    inside = [o for o in project.inside if o in users]
-    text_of = {mutant.path: mutant.text()}
     with tempfile.TemporaryDirectory() as folder:
-        folder = pathlib.Path(folder)
-        objects = [build / o for o in project.library if o not in library]
-        if library:
-            # Many users of a header are compiled as one source.
-            parts = [library] if len(library) > 3 else library
-            for part in parts:
-                compiled = project.compile(part, text_of, folder, "-O0" if part is library else level)
-                if not compiled:
+        trial = Trial(project, mutant.path, mutant.text(), level(mutant.path), folder)
+        environment = dict(os.environ, LD_LIBRARY_PATH=folder, TMPDIR=folder)
+        try:
+            for program, tests in suites[mutant.path.split("/")[0]]:
+                if program in runs:
+                    environment["ANSATZ_COMMAND"] = str(build / trial.made(runs[program]))
+                if fails(mutant, [build / trial.made(program), "--gtest_filter=" + tests], environment):
                     return
-                objects.append(compiled)
-        shared = folder / os.readlink(build / "src/libansatz.so")
-        run(["cc", "-shared", "-fPIC", "-Wl,-soname," + shared.name, "-Wl,-Bsymbolic", "-o", shared, *objects,
-             build / "src/exports.ld", "-lm"], check=True)
-        environment = dict(os.environ, LD_LIBRARY_PATH=str(folder))
-        # The test of the export list reads the built library, not this one; the slow test comes last.
-        for tests in ("-SharedLibrary.*:*ExtrapolatedDifferences", "*ExtrapolatedDifferences"):
-            if fails(mutant, [build / "tests/models_test", "--gtest_filter=" + tests], environment):
-                return
-        tests = [build / o for o in project.inside if o not in inside]
-        for output in inside:
-            compiled = project.compile(output, text_of, folder, "-O0")
-            if not compiled:
-                mutant.caught, mutant.by = True, "inside_test does not compile"
-                return
-            tests.append(compiled)
-        program = folder / "inside_test"
-        run(["c++", "-o", program, *tests, *objects, "-lgtest_main", "-lgtest", "-lm"], check=True)
-        fails(mutant, [program], environment)
+        except DoesNotCompile as fault:
+            if str(fault).startswith("tests/"):
+                mutant.caught, mutant.by = True, "%s does not compile" % fault
 
 
 def fails(mutant, command, environment):
-    try:
-        done = run(command + ["--gtest_brief=1", "--gtest_fail_fast"], env=environment, timeout=60, errors="replace",
-                   text=True)
-        mutant.caught = done.returncode != 0
-        failed = re.search(r"\[  FAILED  \] ([\w/.]+)", done.stdout)
-        mutant.by = failed.group(1) if failed else "crash" if mutant.caught else ""
-    except subprocess.TimeoutExpired:
-        mutant.caught, mutant.by = True, "never ends"
+    with subprocess.Popen(command + ["--gtest_brief=1", "--gtest_fail_fast"], env=environment, errors="replace",
+                          text=True, stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
+                          start_new_session=True) as process:
+        try:
+            printed = process.communicate(timeout=60)[0]
+            mutant.caught = process.returncode != 0
+            failed = re.search(r"\[  FAILED  \] ([\w/.]+)", printed)
+            mutant.by = failed.group(1) if failed else "crash" if mutant.caught else ""
+        except subprocess.TimeoutExpired:
+            os.killpg(process.pid, signal.SIGKILL) # with the commands that the test started
+            mutant.caught, mutant.by = True, "never ends"
     return mutant.caught
 
 
 def same_code(mutant, project):
     """Does the compiler make the same code of the fault as of the source?"""
-    users = [o for o in project.library if o in project.users.get(mutant.path, [])]
+    users = [o for o in project.users.get(mutant.path, []) if not o.startswith("tests/") and o in project.command]
+    users = [o for o in users if "fma" not in o and "batch_loops" not in o]
     if len(users) > 3:
         return False
-    with tempfile.TemporaryDirectory() as folder:
-        for output in users:
-            codes = []
-            for text in (mutant.text(), (root / mutant.path).read_text()):
-                compiled = project.compile(output, {mutant.path: text}, pathlib.Path(folder), "-O2")
-                if not compiled:
+    for output in users:
+        codes = []
+        for text in (mutant.text(), (root / mutant.path).read_text()):
+            with tempfile.TemporaryDirectory() as folder:
+                try:
+                    compiled = Trial(project, mutant.path, text, "-O2", folder).compile([output], "-O2")
+                except DoesNotCompile:
                     return False
-                codes.append(run(["objdump", "-d", "-s", "-j", ".text", "-j", ".rodata", compiled]).stdout)
-            if codes[0] != codes[1]:
-                return False
+                os.rename(compiled, folder + "/one.o") # objdump prints the name
+                codes.append(run(["objdump", "-d", "-s", "-j", ".text", "-j", ".rodata", "one.o"], cwd=folder).stdout)
+        if codes[0] != codes[1]:
+            return False
     return True
 
 
@@ -265,7 +362,41 @@ def explanations():
         old = " ".join(" ".join(l[1:] for l in lines if l[0] == "-").split())
         new = " ".join(" ".join(l[1:] for l in lines if l[0] == "+").split())
         known[lines[0], old, new] = " ".join(l.strip() for l in lines[1:] if l[0] not in "-+")
+    for path in {path for path, _, _ in known}:
+        made = {m.key() for group in candidates(path).values() for m in group} if (root / path).exists() else set()
+        for key in known:
+            if key[0] == path and key not in made:
+                sys.exit("mutate: equivalent.txt explains what can no longer be made in %s:\n  - %s\n  + %s" % key)
     return known
+
+
+def sources():
+    paths = sorted(str(p.relative_to(root)) for folder in suites for p in (root / folder).rglob("*")
+                   if p.suffix in (".cpp", ".h", ".hpp"))
+    return [p for p in paths if not p.startswith(left_out)]
+
+
+def how_many(path):
+    folder, inner = path.split("/")[:2]
+    if folder == "src":
+        return per_file[inner]
+    if path.endswith(".hpp"):
+        return 2 # all that use it are compiled again
+    return len((root / path).read_text().split("\n")) // lines_per_fault[folder] + 1
+
+
+def drawn(wanted, count, seed):
+    """So many faults of all folders, but not of headers with many users, which would take too long, nor of the
+    pictures, whose faults are not all caught or explained yet."""
+    source = random.Random(seed)
+    few = {}
+    for folder, share in sample_share.items():
+        paths = [p for p in sorted(wanted) if p.startswith(folder + "/") and p.endswith(".cpp")
+                 and not p.startswith(("tools/plot", "tools/plane", "tools/gnuplot"))]
+        paths = source.sample(paths, len(paths))
+        for path in itertools.islice(itertools.cycle(paths), round(count * share)):
+            few[path] = few.get(path, 0) + 1
+    return few
 
 
 def main():
@@ -274,53 +405,52 @@ def main():
     parser.add_argument("--show", action="store_true")
     parser.add_argument("--per-file", type=int)
     parser.add_argument("--seed", type=int, default=1, help="another choice of faults; writes nothing")
+    parser.add_argument("--jobs", type=int, default=2)
     parser.add_argument("files", nargs="*")
     arguments = parser.parse_args()
 
+    known = explanations()
     project = Build()
-    paths = sorted(str(p.relative_to(root)) for p in (root / "src").rglob("*") if p.suffix in (".cpp", ".h"))
-    paths.remove("src/protocol/host_arithmetic.h")  # for Windows only, where its own tests run
-    paths = [p for p in paths if any(f in p for f in arguments.files)] if arguments.files else paths
-    queues = {}
-    for path in paths:
-        order = chosen(path, arguments.seed)
-        if order:
-            queues[path] = (order, arguments.per_file or per_file[path.split("/")[1]])
+    wanted = {path: arguments.per_file or how_many(path) for path in sources()
+              if not arguments.files or any(f in path for f in arguments.files)}
     if arguments.sample:
-        few = random.Random(arguments.seed).sample(sorted(queues), min(arguments.sample, len(queues)))
-        queues = {path: (queues[path][0], 1) for path in few if not path.startswith("src/protocol/")}
-
-    for program in ("tests/models_test", "tests/inside_test"):
+        wanted = drawn(wanted, arguments.sample, arguments.seed)
+    orders = {path: iter(chosen(path, arguments.seed)) for path in wanted}
+    for program in sorted({program for path in wanted for program, _ in suites[path.split("/")[0]]}):
         if run([build / program, "--gtest_brief=1"]).returncode != 0:
             sys.exit("mutate: %s fails without any fault" % program)
+    resource.setrlimit(resource.RLIMIT_AS, (8 << 30, 8 << 30)) # a fault may ask for memory without end
 
     lock = threading.Lock()
-    known = explanations()
 
-    def work(path):
-        order, wanted = queues[path]
-        tested = []
-        for mutant in order:
-            if len(tested) == wanted:
+    def work(mutant):
+        """Is it a fault?"""
+        test(mutant, project)
+        if mutant.caught is None or (not mutant.caught and mutant.key() not in known and same_code(mutant, project)):
+            return False
+        with lock:
+            if arguments.show or not mutant.caught:
+                print("%s %s:%d %s\n  - %s\n  + %s\n  %s" % (
+                    "caught  " if mutant.caught else "SURVIVED", mutant.path, mutant.line + 1, mutant.kind,
+                    *mutant.changed(), mutant.by or known.get(mutant.key(), "unexplained")), flush=True)
+        return True
+
+    mutants = []
+    with concurrent.futures.ThreadPoolExecutor(arguments.jobs) as pool:
+        while True: # what was no fault is made up for in the next round
+            tries = [m for path, order in orders.items() for m in itertools.islice(order, wanted[path])]
+            if not tries:
                 break
-            test(mutant, project)
-            if mutant.caught is None:
-                continue
-            if not mutant.caught and mutant.key() not in known and same_code(mutant, project):
-                continue # not a fault
-            tested.append(mutant)
-            with lock:
-                if arguments.show or not mutant.caught:
-                    print("%s %s:%d %s\n  - %s\n  + %s\n  %s" % (
-                        "caught  " if mutant.caught else "SURVIVED", path, mutant.line + 1, mutant.kind,
-                        *mutant.changed(), mutant.by or known.get(mutant.key(), "unexplained")), flush=True)
-        return tested
-
-    with concurrent.futures.ThreadPoolExecutor(2) as pool:
-        mutants = [m for tested in pool.map(work, sorted(queues, key=lambda p: "protocol" in p)) for m in tested]
+            for mutant, is_fault in zip(tries, pool.map(work, tries)):
+                if is_fault:
+                    mutants.append(mutant)
+                    wanted[mutant.path] -= 1
 
     survived = [m for m in mutants if not m.caught]
     unexplained = [m for m in survived if m.key() not in known]
+    print(table(("Folder", "Faults", "Caught", "Explained"), (
+        (folder, len(group), sum(m.caught for m in group), sum(not m.caught and m.key() in known for m in group))
+        for folder in suites for group in [[m for m in mutants if m.path.startswith(folder + "/")]] if group)))
     print("%d faults, %d caught, %d explained, %d not" % (
         len(mutants), len(mutants) - len(survived), len(survived) - len(unexplained), len(unexplained)))
     if not arguments.files and not arguments.sample and not arguments.per_file and arguments.seed == 1:
@@ -328,20 +458,22 @@ def main():
     sys.exit(1 if unexplained else 0)
 
 
+def table(header, rows):
+    lines = [header, ["---"] * len(header), *rows]
+    return "\n".join("| %s |" % " | ".join(str(cell) for cell in line) for line in lines).replace(" --- ", "---")
+
+
 def figures(mutants, survived, known):
-    lines = ["| Kind of fault | Made | Caught |", "|---|---|---|"]
-    names = sorted({m.kind for m in mutants})
-    for kind in names + [None]:
-        group = [m for m in mutants if kind in (None, m.kind)]
-        caught = sum(m.caught for m in group)
-        lines.append("| %s | %d | %d |" % (kind or "**all**", len(group), caught))
-    lines += ["", "| Not caught | The line | The fault | Why it changes nothing |", "|---|---|---|---|"]
+    counts = lambda groups: [(name, len(group), sum(m.caught for m in group)) for name, group in groups]
+    folders = [(f, [m for m in mutants if m.path.startswith(f + "/")]) for f in suites] + [("**all**", mutants)]
+    kinds_made = [(k, [m for m in mutants if m.kind == k]) for k in sorted({m.kind for m in mutants})]
     quoted = lambda text: "`%s`" % text.replace("|", "\\|")
-    for m in sorted(survived, key=lambda m: (m.path, m.line)):
-        old, new = m.changed()
-        lines.append("| %s | %s | %s | %s |" % (
-            m.path[4:], quoted(old), quoted(new), known.get(m.key(), "**a gap in the tests**")))
-    return "\n".join(lines)
+    return "\n\n".join((
+        table(("Folder", "Made", "Caught"), counts(folders)),
+        table(("Kind of fault", "Made", "Caught"), counts(kinds_made)),
+        table(("Not caught", "The line", "The fault", "Why it changes nothing"), (
+            (m.path, *map(quoted, m.changed()), known.get(m.key(), "**a gap in the tests**"))
+            for m in sorted(survived, key=lambda m: (m.path, m.line))))))
 
 
 if __name__ == "__main__":

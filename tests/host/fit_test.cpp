@@ -58,6 +58,12 @@ struct Regression {
         a = (Sxx * Sy - Sx * Sxy) / D;
         b = (Sw * Sxy - Sx * Sy) / D;
     }
+
+    /// The weighted sum of squares about a line.
+    double about(double intercept, double slope) const {
+        const auto left = data.y.array() - intercept - slope * data.x.array();
+        return (data.weights.array() * left.square()).sum();
+    }
 };
 
 } // namespace
@@ -84,7 +90,10 @@ TEST(Certified, Eckerle4WithNumericalDerivatives) {
 TEST(Weights, GiveTheClosedFormOfAWeightedLine) {
     const Regression line;
     const Fit result = fit(custom::line(), line.data, starts(custom::line(), {0, 0}));
-    const double scale = *result.reduced_chi_square;
+    const double rss = line.about(line.a, line.b), scale = rss / 2;
+    expect_relative(result.rss, rss, 1e-12, "residual sum of squares");
+    expect_relative(*result.reduced_chi_square, scale, 1e-12, "reduced chi-square");
+    expect_relative(*result.r_squared, 1 - rss / line.about(line.Sy / line.Sw, 0), 1e-12, "R squared");
     expect_relative(result.parameters[0].value, line.a, 1e-13, "intercept");
     expect_relative(result.parameters[1].value, line.b, 1e-13, "slope");
     expect_relative(*result.parameters[0].error, std::sqrt(scale * line.Sxx / line.D), 1e-12,
@@ -104,7 +113,33 @@ TEST(Weights, OfZeroRemoveAPoint) {
     EXPECT_THROW(fit(custom::line(), line.data, starts(custom::line(), {0, 0})), Error);
 }
 
-TEST(Bounds, HoldTheSlopeAndLeaveItsErrorOut) {
+TEST(Weights, OfEachOutputAreItsOwn) {
+    // Exact data but for one value in each column, which its own weight takes out.
+    const Eigen::VectorXd x = Eigen::VectorXd::LinSpaced(9, 0, 4);
+    Eigen::MatrixXd y(9, 2), weights = Eigen::MatrixXd::Ones(9, 2);
+    y << (1 + 0.5 * x.array()).matrix(), (3 * (-0.5 * x.array()).exp()).matrix();
+    y(5, 0) = -7, weights(5, 0) = 0;
+    y(2, 1) = 1000, weights(2, 1) = 0;
+    const Fit result =
+        fit(custom::pair(), {.x = x, .y = y, .weights = weights}, starts(custom::pair(), {0, 0.1, 1}));
+    EXPECT_EQ(result.degrees_of_freedom, 13);
+    EXPECT_LT((result.values() - vector({1, 0.5, 3})).norm(), 1e-9);
+}
+
+TEST(Bounds, AreNotPassedByTheLastSteps) {
+    // Bounds so close before the slope sought that the search stands still there.
+    const Regression line;
+    for (int k = 0; k < 60; ++k) {
+        const double gap = line.b * std::pow(10, -6 - 0.1 * k);
+        auto below = starts(custom::line(), {0, 0}), above = starts(custom::line(), {0, 2});
+        below[1].upper = line.b - gap;
+        above[1].lower = line.b + gap;
+        EXPECT_LE(fit(custom::line(), line.data, below).parameters[1].value, below[1].upper) << k;
+        EXPECT_GE(fit(custom::line(), line.data, above).parameters[1].value, above[1].lower) << k;
+    }
+}
+
+TEST(Bounds, HoldAParameterAndLeaveItsErrorOut) {
     const Regression line; // its slope is above 0.9
     auto start = starts(custom::line(), {0, 0});
     start[1].upper = 0.5;
@@ -114,6 +149,16 @@ TEST(Bounds, HoldTheSlopeAndLeaveItsErrorOut) {
     EXPECT_FALSE(result.parameters[1].error);
     expect_relative(result.parameters[0].value, (line.Sy - 0.5 * line.Sx) / line.Sw, 1e-12, "intercept");
     EXPECT_TRUE(result.parameters[0].error);
+
+    auto above = starts(custom::line(), {2, 0});
+    above[0].lower = 1;
+    const Fit lifted = fit(custom::line(), line.data, above);
+    EXPECT_EQ(lifted.parameters[0].value, 1);
+    EXPECT_TRUE(lifted.parameters[0].at_lower);
+    EXPECT_FALSE(lifted.parameters[0].at_upper || lifted.parameters[1].at_lower);
+    expect_relative(lifted.parameters[1].value, (line.Sxy - line.Sx) / line.Sxx, 1e-12, "slope");
+    expect_relative(*lifted.parameters[1].error, std::sqrt(*lifted.reduced_chi_square / line.Sxx), 1e-12,
+                    "error");
 }
 
 TEST(Bounds, ThatNothingReachesChangeNothing) {
@@ -135,33 +180,34 @@ TEST(ReferencePositions, StayWhereTheyAreSet) {
     expect_relative(result.parameters[1].value, line.a + 2 * line.b, 1e-11, "expected response");
 }
 
-TEST(TwoOutputs, AreFittedJointly) {
-    const Eigen::VectorXd x = Eigen::VectorXd::LinSpaced(9, 0, 4);
-    Eigen::MatrixXd y(9, 2);
-    y.col(0) = 1 + 0.5 * x.array();
-    y.col(1) = 3 * (-0.5 * x.array()).exp();
-    const Fit result = fit(custom::pair(), {.x = x, .y = y}, starts(custom::pair(), {0, 0.1, 1}));
-    EXPECT_EQ(result.residuals, 18);
-    expect_relative(result.parameters[0].value, 1, 1e-9, "P1");
-    expect_relative(result.parameters[1].value, 0.5, 1e-9, "P2, in both columns");
-    expect_relative(result.parameters[2].value, 3, 1e-9, "P3");
-}
-
-TEST(Implicit, CircleThroughItsPoints) {
-    Eigen::MatrixXd x(7, 2);
-    for (int i = 0; i < 7; ++i) x.row(i) << 1 + 3 * std::cos(i), 2 + 3 * std::sin(i);
-    const Fit result = fit(custom::circle(), {.x = x}, starts(custom::circle(), {0, 0, 1}));
-    expect_relative(result.parameters[0].value, 1, 1e-9, "centre");
-    expect_relative(result.parameters[1].value, 2, 1e-9, "centre");
-    expect_relative(std::fabs(result.parameters[2].value), 3, 1e-9, "radius");
-    EXPECT_FALSE(result.r_squared);
-}
-
 TEST(Covariance, OfARedundantModelIsRefusedByName) {
     const Regression line;
     const Fit result = fit(custom::redundant(), line.data, starts(custom::redundant(), {0, 0, 0}));
     EXPECT_EQ(result.undetermined, (std::vector<int>{0, 1}));
     for (const Estimate& parameter : result.parameters) EXPECT_FALSE(parameter.error);
+}
+
+// The farther the data of a line lie from 0, the less its slope can be told from its intercept. The smallest
+// singular value is about the spread of x over its distance.
+TEST(Covariance, IsRefusedOnlyWhereRoundingDecides) {
+    const struct {
+        double distance;
+        Derivatives derivatives;
+        bool determined;
+    } cases[] = {{1e6, Derivatives::numerical, true},
+                 {1e10, Derivatives::numerical, false},
+                 {1e10, Derivatives::best, true},
+                 {4e15, Derivatives::best, false}};
+    for (const auto& [distance, derivatives, determined] : cases) {
+        const Data data{.x = vector({distance, distance + 1, distance + 2, distance + 3}),
+                        .y = vector({1, 3, 2, 4})};
+        const Fit result =
+            fit(custom::line(), data, starts(custom::line(), {0, 0}), {.derivatives = derivatives});
+        EXPECT_EQ(result.undetermined.empty(), determined) << distance;
+        EXPECT_EQ(result.parameters[1].error.has_value(), determined) << distance;
+        // By the textbook: slope 0.8, residual sum of squares 1.8, spread of x 5.
+        if (determined) expect_relative(*result.parameters[1].error, std::sqrt(0.9 / 5), 1e-4, "error");
+    }
 }
 
 TEST(Runaway, FromABoldFirstStepIsTriedAgainWithCare) {
@@ -291,11 +337,19 @@ TEST(Failure, ShortOfAMinimumIsNoConvergence) {
     EXPECT_FALSE(stuck.converged);
     EXPECT_NEAR(stuck.relative_offset, 1, 0.01);
     EXPECT_NE(stuck.termination.find("numerical"), std::string::npos) << stuck.termination;
-    const auto start = starts(custom::misleading(), {0});
+    auto start = starts(custom::misleading(), {0});
+    start[0].upper = 0; // going on from the bound leads nowhere either, and is not tried for ever
+    EXPECT_EQ(fit(custom::misleading(), data, start).termination, stuck.termination);
+    start = starts(custom::misleading(), {0});
     EXPECT_TRUE(fit(custom::misleading(), data, start, {.derivatives = Derivatives::numerical}).converged);
-    // Exact data leave nothing but rounding in the residuals, in whatever direction.
+    // Exact data leave nothing but rounding in the residuals, in whatever direction, from near and from far.
     const Data exact{.x = vector({1, 2, 3}), .y = vector({1.1, 2.2, 3.3})};
-    EXPECT_TRUE(fit(custom::line(), exact, starts(custom::line(), {0, 0})).converged);
+    const Data zero{.x = exact.x, .y = vector({0, 0, 0})};
+    for (const auto& guess : {std::vector{0.0, 0.0}, {5.0, 3.0}, {1e-9, 1.1}}) {
+        EXPECT_TRUE(fit(custom::line(), exact, starts(custom::line(), guess)).converged) << guess[0];
+        EXPECT_TRUE(fit(custom::line(), zero, starts(custom::line(), guess)).converged) << guess[0];
+    }
+    EXPECT_EQ(fit(custom::line(), zero, starts(custom::line(), {0, 0})).relative_offset, 0);
 }
 
 TEST(Failure, OfTheRequestIsAnError) {
@@ -351,4 +405,23 @@ TEST(Columns, NameTheFirstPointThatFails) {
     const Eigen::MatrixXd x = vector({1, 2, -1, 3, -2}); // Hill fails for x < 0
     ColumnSource columns(Model::find("Hill"), x, 3);
     EXPECT_EQ(columns.compute(vector({1, 2, 1.5})), 2);
+}
+
+TEST(Columns, KeepNothingOfTheEvaluationBefore) {
+    // A peak of amplitude 0 writes none of its derivatives.
+    const Model model = Model::find("InvsPoly");
+    const Eigen::MatrixXd x = vector({-1, 0.5, 2});
+    const Eigen::VectorXd peak = vector({1, 0, 2, 3, 1, 0.5, 0.2}), none = vector({1, 0, 2, 0, 1, 0.5, 0.2});
+    ColumnEvaluator columns(model, x, 7);
+    Evaluator by_point(model, peak);
+    EXPECT_EQ(columns.compute(peak), -1);
+    ASSERT_TRUE(by_point.derivatives(x, 1));
+    EXPECT_NE(columns.derivative(1, 3), 0);
+    by_point.set_parameters(none);
+    EXPECT_EQ(columns.compute(none), -1);
+    ASSERT_TRUE(by_point.derivatives(x, 1));
+    for (int k = 0; k < 7; ++k) {
+        EXPECT_EQ(columns.derivative(1, k), k == 0) << "P" << k + 1;
+        EXPECT_EQ(by_point.derivative(0, k), k == 0) << "P" << k + 1;
+    }
 }

@@ -44,6 +44,8 @@ TEST(Names, IgnoreCase) {
 
 TEST(Names, UnknownOnesComeWithTheNearest) {
     EXPECT_EQ(nearest_names("lorents").front(), "Lorentz");
+    EXPECT_EQ(std::ranges::count(nearest_names("wei", 99), "Weibull"), 1) << "which contains it";
+    EXPECT_TRUE(nearest_names("zzzzzz").empty());
     try {
         Model::find("gaus");
         FAIL();
@@ -63,6 +65,11 @@ TEST(Pages, AgreeWithTheCatalogue) {
         EXPECT_GE(model.default_size(), parameters) << page.name;
         EXPECT_NO_THROW(model.require_size(model.default_size())) << page.name;
     }
+}
+
+TEST(Descriptions, AreFoundInAnyCase) {
+    ASSERT_TRUE(describe("Boltzman").text);
+    EXPECT_EQ(describe("bOLTZMAN").text, describe("Boltzman").text);
 }
 
 TEST(Parameters, AreNumberedByPeakOnlyWithSeveralPeaks) {
@@ -149,6 +156,26 @@ TEST(Evaluation, TakesDifferencesWhereAModelHasNoTrueDerivatives) {
     EXPECT_NEAR(asymptotic.jacobian[0](0, 2), 1, 1e-9);
 }
 
+TEST(Evaluation, TakesDifferencesOnTheScaleOfTheParameter) {
+    const auto slope =
+        evaluate(Model::find("Line"), vector({0.3, -1e9}), vector({0.7}), true, Derivatives::numerical);
+    EXPECT_NEAR(slope.jacobian[0](0, 1), 0.7, 1e-9);
+    // Once rounding decides about the difference, narrower steps are of no use: a value and two pairs are
+    // enough.
+    static int calls = 0;
+    const FitFunction all_but_flat = [](std::uint32_t flags, std::uint32_t, std::int32_t, std::uint32_t,
+                                        std::uint32_t, const double* P, std::uint32_t, double*, double* y,
+                                        double*) -> std::int32_t {
+        calls += (flags & FF_VALUE) != 0;
+        y[1] = 1 + 1e-9 * P[1];
+        return 0;
+    };
+    const Model model = Model::custom("all but flat", all_but_flat, 1, 1, 1);
+    calls = 0;
+    EXPECT_NEAR(evaluate(model, vector({1}), vector({0}), true).jacobian[0](0, 0), 1e-9, 1e-11);
+    EXPECT_EQ(calls, 5);
+}
+
 TEST(Evaluation, FillsADerivativeThatASuccessLeavesOpen) {
     // At x = 0 the value is the offset; the logarithm in the last derivative does not exist.
     const auto isotherm = evaluate(Model::find("Freundlich3PMod"), vector({5, 2, 3}), vector({0, 1}), true);
@@ -167,6 +194,9 @@ TEST(Evaluation, OfTwoOutputsCompletesTheDerivatives) {
     EXPECT_EQ(result.jacobian[0](0, 1), 2);
     EXPECT_NEAR(result.jacobian[1](0, 1), -6 * std::exp(-1), 1e-9);
     EXPECT_NEAR(result.jacobian[1](0, 2), std::exp(-1), 1e-9);
+    // Where the curve bends so much that a plain difference has an error of 3e-8, extrapolation has not.
+    const Evaluation far = evaluate(custom::pair(), vector({1, 0.5, 3}), vector({16}), true);
+    EXPECT_NEAR(far.jacobian[1](0, 1) / (-48 * std::exp(-8)), 1, 2e-11);
 }
 
 TEST(Evaluation, MarksTheFailingPointsAlone) {

@@ -175,6 +175,8 @@ TEST(TwoOutputs, AreFittedJointlyWithOneVariance) {
     EXPECT_NEAR(result.parameters[0].value, expected[0], 1e-8);
     EXPECT_NEAR(result.parameters[2].value, expected[1], 1e-8);
     const double variance = (y - result.fitted).squaredNorm() / 57;
+    const double total = (y.rowwise() - y.colwise().mean()).squaredNorm(); // each column about its own mean
+    EXPECT_NEAR(*result.r_squared, 1 - 57 * variance / total, 1e-12);
     EXPECT_NEAR(*result.parameters[0].error, std::sqrt(variance * inverse(0, 0)), 1e-8);
     EXPECT_NEAR(*result.parameters[2].error, std::sqrt(variance * inverse(1, 1)), 1e-8);
 }

@@ -23,12 +23,12 @@ TEST(Table, ReadsEveryDialectAlike) {
         "a,b\n1,2.5\n-3,4e2\n",
         "1,2.5\n-3,4e2\n",
         "a;b\n1;2,5\n-3;4e2",
-        "a\tb\n1\t2.5\n-3\t400\n",
+        "a\tb\n1\t2,5\n-3\t400\n",
         "  a   b\n 1    2.5\n-3  +400  \n\n",
         "1 \t 2.5\r\n-3 \t 400\r\n",
         "# a comment\n\n\"a\",\"b\"\r\n1, 2.5 # the first\r\n\r\n-3 , 400\r\n",
         "\xef\xbb\xbf"
-        "a,b\n1,2.5\n-3,400\n",
+        "1,2.5\n-3,400\n",
         "\"2020\",\"2021\"\n1,2.5\n-3,400\n",
     };
     for (const char* const text : dialects) {
@@ -45,12 +45,15 @@ TEST(Table, ReadsEveryDialectAlike) {
 TEST(Table, FindsColumnsByNameAndNumber) {
     const Table table = read("time;\"signal, \"\"raw\"\" #1\";2\n1;2;3\n");
     EXPECT_EQ(table.name(1), "signal, \"raw\" #1");
+    EXPECT_EQ(read("\"t\" ; \" s \"\n1;2\n").name(1), " s ") << "blanks within quotes belong to a name";
     EXPECT_EQ(table.column("TIME"), 0);
     EXPECT_EQ(table.column("signal, \"raw\" #1"), 1);
     EXPECT_EQ(table.column("3"), 2);
     EXPECT_EQ(table.column("2"), 2) << "a header's name goes before a number";
     EXPECT_THROW(table.column("4"), Error);
+    EXPECT_THROW(table.column("0"), Error);
     EXPECT_EQ(read("1 2\n").name(1), "column 2");
+    EXPECT_EQ(read("\xef\xbb\xbftime,y\n1,2\n").name(0), "time") << "behind a byte order mark";
 }
 
 TEST(Table, PassesOverTextAbove) {
