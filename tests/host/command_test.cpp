@@ -234,7 +234,7 @@ TEST_F(Command, PrintsAlignedTables) {
     const std::string fit = run("fit Line four.csv --start 0,0").out;
     EXPECT_TRUE(fit.starts_with("Line:  y = a + b x\n4 points from four.csv; converged")) << fit;
     EXPECT_TRUE(fit.ends_with("      symbol  value  standard error\n"
-                              "  P1  a         1.3      0.79372539  intercept\n"
+                              "  P1  a         1.3      0.79372539  intercept: y at x = 0\n"
                               "  P2  b         0.8      0.42426407  slope\n\n"
                               "Residual sum of squares  1.8\n"
                               "R squared                0.64\n"

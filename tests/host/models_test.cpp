@@ -67,9 +67,10 @@ TEST(Pages, AgreeWithTheCatalogue) {
     }
 }
 
-TEST(Descriptions, AreFoundInAnyCase) {
-    ASSERT_TRUE(describe("Boltzman").text);
-    EXPECT_EQ(describe("bOLTZMAN").text, describe("Boltzman").text);
+TEST(Pages, AreFoundInAnyCase) {
+    ASSERT_TRUE(ansatz::find_page("Boltzman"));
+    EXPECT_EQ(ansatz::find_page("bOLTZMAN"), ansatz::find_page("Boltzman"));
+    EXPECT_FALSE(ansatz::find_page("Boltzmann"));
 }
 
 TEST(Parameters, AreNumberedByPeakOnlyWithSeveralPeaks) {
