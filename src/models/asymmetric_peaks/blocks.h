@@ -15,55 +15,43 @@
 //   slopes(x, p, d)     the contribution, and its derivatives by p[0].. into d[0].., where the peak has them
 #pragma once
 
-#include "protocol/forms.h"
+#include "protocol/blocks.h"
 
 #include <algorithm>
 
 namespace ansatz::blocks {
 
 template <class Peak> Status value(const Point& at) {
-    const auto [n, P, x, y, dyda] = at;
-    if (n < 1) return fail(at);
-    Real sum = P[1];
-    const int peaks = (n - 1) / Peak::size;
-    const Scalar* p = P + 2;
-    for (int i = 1; i <= peaks; ++i, p += Peak::size) {
-        if (p[Peak::amplitude] == 0) continue;
+    if (at.n < 1) return fail(at);
+    return add_blocks<Peak::size>(at, (at.n - 1) / Peak::size, [&](const Scalar* before, int) -> Outcome {
+        const Scalar* p = before + 1;
+        if (p[Peak::amplitude] == 0) return skipped;
         if (!Peak::allows(p)) return fail(at);
-        const Real peak = Peak::value(x[1], p);
+        const Real peak = Peak::value(at.x[1], p);
         if (math_error()) return fail(at);
-        y[i + 1] = peak;
-        sum += peak;
-    }
-    y[1] = sum;
-    return success;
+        return peak;
+    });
 }
 
 template <class Peak> Status derivatives(const Point& at) {
-    const auto [n, P, x, y, dyda] = at;
-    if (n < 1) return fail(at);
-    dyda[1] = 1;
-    Real sum = P[1];
-    const int peaks = (n - 1) / Peak::size;
-    const Scalar* p = P + 2;
-    Real* d = dyda + 2;
-    const auto failed = [&] {
-        std::fill_n(d, Peak::size, MISSING_VALUE);
-        return fail(at, 1);
-    };
-    for (int i = 1; i <= peaks; ++i, p += Peak::size, d += Peak::size) {
+    if (at.n < 1) return fail(at);
+    at.dyda[1] = 1;
+    return add_blocks<Peak::size>(at, (at.n - 1) / Peak::size, [&](const Scalar* before, int k) -> Outcome {
+        const Scalar* p = before + 1;
+        Real* d = at.dyda + k + 1;
         if (p[Peak::amplitude] == 0) {
             std::fill_n(d, Peak::size, 0.0);
-            continue;
+            return skipped;
         }
+        const auto failed = [&] {
+            std::fill_n(d, Peak::size, MISSING_VALUE);
+            return fail(at, 1);
+        };
         if (!Peak::allows(p)) return failed();
-        const Real peak = Peak::slopes(x[1], p, d);
+        const Real peak = Peak::slopes(at.x[1], p, d);
         if (math_error()) return failed();
-        y[i + 1] = peak;
-        sum += peak;
-    }
-    y[1] = sum;
-    return success;
+        return peak;
+    });
 }
 
 template <class Peak, Answers answers = Answers{}> using BothPaths =

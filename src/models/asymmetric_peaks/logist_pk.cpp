@@ -5,31 +5,25 @@
 // with the sum so far in y[1], not MISSING_VALUE; and more than 709 widths left of a centre, where the
 // exponential overflows, the call succeeds with y[1] = 0, whatever the offset and the other peaks.
 
-#include "protocol/forms.h"
+#include "protocol/blocks.h"
 
 namespace ansatz::logist_pk {
 namespace {
 
 Status value(const Point& at) {
-    const auto [n, P, x, y, dyda] = at;
-    if (n <= 0) return fail(at);
-    y[1] = P[1];
-    const int peaks = (n - 1) / 3;
-    for (int k = 1; k <= peaks; ++k) {
-        const Scalar c = P[3 * k - 1], w = P[3 * k], A = P[3 * k + 1];
-        if (A == 0) continue;
+    if (at.n <= 0) return fail(at);
+    return add_blocks<3>(at, (at.n - 1) / 3, [&](const Scalar* p, int) -> Outcome {
+        const Scalar c = p[1], w = p[2], A = p[3];
+        if (A == 0) return skipped;
         if (w <= 0) return failure;
-        const Real e = safe_exp((c - x[1]) / w);
+        const Real e = safe_exp((c - at.x[1]) / w);
         if (range_error()) {
-            y[1] = 0;
+            at.y[1] = 0;
             clear_error();
             return success;
         }
-        const Real peak = 4 * A * e / (1 + e) / (1 + e);
-        y[k + 1] = peak;
-        y[1] += peak;
-    }
-    return success;
+        return 4 * A * e / (1 + e) / (1 + e);
+    });
 }
 
 Status refuse_marked(const Point& at) {

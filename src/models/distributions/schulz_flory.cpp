@@ -6,7 +6,7 @@
 // The derivative by the centre is the law's for s = 1 only: with L = ln(w/M) it has the factor 1 + (L - 1)/s
 // where the law has L/s. Hosts rely on it.
 
-#include "protocol/forms.h"
+#include "protocol/blocks.h"
 #include "special/bounded_pow.h"
 
 namespace ansatz::schulz_flory {
@@ -21,54 +21,41 @@ struct Peak {
     Real height;
 };
 
-Peak peak_at(const Point& at, int centre, int scale) {
+Peak peak_at(const Point& at, const Scalar* p) {
     const Real w = bounded_pow(10, at.x[1]);
-    const Scalar M = of_parameters<bounded_pow<Scalar>>(10.0, at.P[centre]);
-    const Scalar s = of_parameters<bounded_pow<Scalar>>(10.0, at.P[scale]);
+    const Scalar M = of_parameters<bounded_pow<Scalar>>(10.0, p[1]);
+    const Scalar s = of_parameters<bounded_pow<Scalar>>(10.0, p[2]);
     const Real e = clamped_exp((M - w) / s);
-    const Real p = bounded_pow(w / M, M / s);
-    return {w, M, s, p * e};
+    const Real power = bounded_pow(w / M, M / s);
+    return {w, M, s, power * e};
 }
 
 Status value(const Point& at) {
-    const auto [n, P, x, y, dyda] = at;
-    if (n < 1) return fail(at);
-    Real sum = P[1];
-    const int peaks = (n - 1) / 3;
-    for (int i = 1; i <= peaks; ++i) {
-        const int centre = 3 * i - 1, scale = 3 * i, amplitude = 3 * i + 1;
-        const Scalar A = P[amplitude];
-        if (A == 0) continue;
-        const Real peak = peak_at(at, centre, scale).height * A;
+    if (at.n < 1) return fail(at);
+    return add_blocks<3>(at, (at.n - 1) / 3, [&](const Scalar* p, int) -> Outcome {
+        const Scalar A = p[3];
+        if (A == 0) return skipped;
+        const Real peak = peak_at(at, p).height * A;
         if (math_error()) return fail(at);
-        y[i + 1] = peak;
-        sum += peak;
-    }
-    y[1] = sum;
-    return success;
+        return peak;
+    });
 }
 
 Status derivatives(const Point& at) {
-    const auto [n, P, x, y, dyda] = at;
-    if (n < 1) return fail(at);
-    dyda[1] = 1;
-    Real sum = P[1];
-    const int peaks = (n - 1) / 3;
-    for (int i = 1; i <= peaks; ++i) {
-        const int centre = 3 * i - 1, scale = 3 * i, amplitude = 3 * i + 1;
-        const Scalar A = P[amplitude];
-        if (A == 0) continue;
-        const auto [w, M, s, g] = peak_at(at, centre, scale);
+    if (at.n < 1) return fail(at);
+    at.dyda[1] = 1;
+    return add_blocks<3>(at, (at.n - 1) / 3, [&](const Scalar* p, int k) -> Outcome {
+        const int centre = k + 1, scale = k + 2, amplitude = k + 3;
+        const Scalar A = p[3];
+        if (A == 0) return skipped;
+        const auto [w, M, s, g] = peak_at(at, p);
         if (math_error()) return fail(at, 1, centre, scale, amplitude);
         const Real Ag = A * g, L = log(w / M);
-        dyda[amplitude] = g;
-        dyda[centre] = (Ag + (L - 1) * Ag / s) * M * ln_10;
-        dyda[scale] = ln_10 * s * (-(Ag * (M - w) / (s * s)) - L * Ag * M / (s * s));
-        y[i + 1] = Ag;
-        sum += Ag;
-    }
-    y[1] = sum;
-    return success;
+        at.dyda[amplitude] = g;
+        at.dyda[centre] = (Ag + (L - 1) * Ag / s) * M * ln_10;
+        at.dyda[scale] = ln_10 * s * (-(Ag * (M - w) / (s * s)) - L * Ag * M / (s * s));
+        return Ag;
+    });
 }
 
 } // namespace

@@ -6,7 +6,7 @@
 // domain error pass. A negative width is accepted for the value and fails for the derivatives. A peak of area 0
 // is skipped: its component keeps what it held, its derivatives are 0.
 
-#include "protocol/forms.h"
+#include "protocol/blocks.h"
 
 namespace ansatz::gauss {
 namespace {
@@ -15,52 +15,39 @@ constexpr Scalar sqrt_half_pi = 1.253314137316;
 constexpr Scalar sqrt_2 = 1.414213562373;
 
 Status value(const Point& at) {
-    const auto [n, P, x, y, dyda] = at;
-    if (n <= 0) return fail(at);
-    Real sum = P[1];
-    const int peaks = (n - 1) / 3;
-    for (int i = 1; i <= peaks; ++i) {
-        const Scalar c = P[3 * i - 1], w = P[3 * i], A = P[3 * i + 1];
-        if (A == 0) continue;
+    if (at.n <= 0) return fail(at);
+    return add_blocks<3>(at, (at.n - 1) / 3, [&](const Scalar* p, int) -> Outcome {
+        const Scalar c = p[1], w = p[2], A = p[3];
+        if (A == 0) return skipped;
         if (w == 0) return fail(at);
-        const Real t = (x[1] - c) / w;
+        const Real t = (at.x[1] - c) / w;
         const Real peak = safe_exp(t * t * -2.0) * A / (w * sqrt_half_pi);
         if (math_error()) return fail(at);
-        y[i + 1] = peak;
-        sum += peak;
-    }
-    y[1] = sum;
-    return success;
+        return peak;
+    });
 }
 
 Status derivatives(const Point& at) {
-    const auto [n, P, x, y, dyda] = at;
-    if (n <= 0) return fail(at);
-    dyda[1] = 1;
-    Real sum = P[1];
-    const int peaks = (n - 1) / 3;
-    for (int i = 1; i <= peaks; ++i) {
-        const int centre = 3 * i - 1, width = 3 * i, area = 3 * i + 1;
-        const Scalar c = P[centre], w = P[width], A = P[area];
+    if (at.n <= 0) return fail(at);
+    at.dyda[1] = 1;
+    return add_blocks<3>(at, (at.n - 1) / 3, [&](const Scalar* p, int k) -> Outcome {
+        const int centre = k + 1, width = k + 2, area = k + 3;
+        const Scalar c = p[1], w = p[2], A = p[3];
         if (A == 0) {
-            dyda[centre] = dyda[width] = dyda[area] = 0;
-            continue;
+            at.dyda[centre] = at.dyda[width] = at.dyda[area] = 0;
+            return skipped;
         }
         if (w <= 0) return fail(at, 1, centre, width, area);
-        const Real d = x[1] - c;
+        const Real d = at.x[1] - c;
         const Real u = d * sqrt_2 / w;
         const Real s = u * u;
         const Real g = safe_exp(-s) / (w * sqrt_half_pi);
-        dyda[area] = g;
+        at.dyda[area] = g;
         if (range_error()) return fail(at, 1, centre, width, area); // a pending domain error passes
-        dyda[width] = (2 * s - 1) * A * g / w;
-        dyda[centre] = x[1] == c ? 0 : s * (2 * A) * g / d;
-        const Real peak = g * A;
-        y[i + 1] = peak;
-        sum += peak;
-    }
-    y[1] = sum;
-    return success;
+        at.dyda[width] = (2 * s - 1) * A * g / w;
+        at.dyda[centre] = at.x[1] == c ? 0 : s * (2 * A) * g / d;
+        return g * A;
+    });
 }
 
 } // namespace

@@ -3,55 +3,42 @@
 // Fails for nParams <= 0, and per peak for a width of 0; a negative width counts as its absolute value in y. A
 // peak of height 0 is skipped: neither its component nor its derivatives are written.
 
-#include "protocol/forms.h"
+#include "protocol/blocks.h"
 
 namespace ansatz::gauss_amp {
 namespace {
 
 Status value(const Point& at) {
-    const auto [n, P, x, y, dyda] = at;
-    if (n <= 0) return fail(at);
-    Real sum = P[1];
-    const int peaks = (n - 1) / 3;
-    for (int k = 1; k <= peaks; ++k) {
-        const Scalar c = P[3 * k - 1], w = P[3 * k], A = P[3 * k + 1];
-        if (A == 0) continue;
+    if (at.n <= 0) return fail(at);
+    return add_blocks<3>(at, (at.n - 1) / 3, [&](const Scalar* p, int) -> Outcome {
+        const Scalar c = p[1], w = p[2], A = p[3];
+        if (A == 0) return skipped;
         if (w == 0) return fail(at);
-        const Real t = (x[1] - c) / w;
+        const Real t = (at.x[1] - c) / w;
         const Real peak = A * safe_exp(t * -0.5 * t);
         if (math_error()) return fail(at);
-        y[k + 1] = peak;
-        sum += peak;
-    }
-    y[1] = sum;
-    return success;
+        return peak;
+    });
 }
 
 Status derivatives(const Point& at) {
-    const auto [n, P, x, y, dyda] = at;
-    if (n <= 0) return fail(at);
-    dyda[1] = 1;
-    Real sum = P[1];
-    const int peaks = (n - 1) / 3;
-    for (int k = 1; k <= peaks; ++k) {
-        const int centre = 3 * k - 1, width = 3 * k, height = 3 * k + 1;
-        const Scalar c = P[centre], w = P[width], A = P[height];
-        if (A == 0) continue;
+    if (at.n <= 0) return fail(at);
+    at.dyda[1] = 1;
+    return add_blocks<3>(at, (at.n - 1) / 3, [&](const Scalar* p, int k) -> Outcome {
+        const int centre = k + 1, width = k + 2, height = k + 3;
+        const Scalar c = p[1], w = p[2], A = p[3];
+        if (A == 0) return skipped;
         if (w == 0) return fail(at, 1, centre, width, height);
-        const Real d = x[1] - c;
+        const Real d = at.x[1] - c;
         const Real t = d / w;
         const Real e = safe_exp(t * -0.5 * t);
         if (math_error()) return fail(at, 1, centre, width, height);
         const Real by_centre = d * A * e / w / w;
-        dyda[height] = e;
-        dyda[centre] = by_centre;
-        dyda[width] = by_centre * d / w;
-        const Real peak = A * e;
-        y[k + 1] = peak;
-        sum += peak;
-    }
-    y[1] = sum;
-    return success;
+        at.dyda[height] = e;
+        at.dyda[centre] = by_centre;
+        at.dyda[width] = by_centre * d / w;
+        return A * e;
+    });
 }
 
 } // namespace

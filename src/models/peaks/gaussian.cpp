@@ -8,7 +8,7 @@
 // alone marked; a negative width turns the peak upside down. A peak of area 0 is skipped: nothing of it is
 // written.
 
-#include "protocol/forms.h"
+#include "protocol/blocks.h"
 
 namespace ansatz::gaussian {
 namespace {
@@ -18,30 +18,23 @@ constexpr Scalar four_ln_2 = 2.77258872223978;
 constexpr Scalar unit_area = 1.06446701943122; // sqrt(pi / (4 ln 2)), the area of a peak of width and height 1
 
 Status compute(const Point& at, bool derivatives) {
-    const auto [n, P, x, y, dyda] = at;
-    Real sum = P[1];
-    const int peaks = (n - 1) / 3;
-    for (int k = 1; k <= peaks; ++k) {
-        const int first = 4 * k - 3, centre = 4 * k - 2, area = 4 * k - 1, width = 4 * k;
-        const Scalar c = P[centre], A = P[area], w = P[width];
-        if (A == 0) continue;
+    return add_blocks<4>(at, (at.n - 1) / 3, [&](const Scalar* p, int k) -> Outcome {
+        const Scalar c = p[1], A = p[2], w = p[3];
+        if (A == 0) return skipped;
         if (w == 0) return fail(at);
-        const Real u = 2 * (x[1] - c) / w;
+        const Real u = 2 * (at.x[1] - c) / w;
         const Real s = u * u * ln_2;
         const Real g = clamped_exp(-s) / (w * unit_area);
         if (math_error()) return fail(at); // the exponential is the peak's only library call
-        const Real peak = A * g;
-        y[k + 1] = peak;
-        sum += peak;
         if (derivatives) {
-            dyda[first] = 1;
-            dyda[area] = g;
-            dyda[width] = (2 * s - 1) * A * g / w;
-            dyda[centre] = A * g * u * four_ln_2 / w;
+            Real* d = at.dyda + k;
+            d[0] = 1;
+            d[1] = A * g * u * four_ln_2 / w;
+            d[2] = g;
+            d[3] = (2 * s - 1) * A * g / w;
         }
-    }
-    y[1] = sum;
-    return success;
+        return A * g;
+    });
 }
 
 struct Form {

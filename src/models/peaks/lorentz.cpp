@@ -5,7 +5,7 @@
 // width only, see Form; a zero width further on divides by zero. No library function is called, so a pending
 // error passes through unseen.
 
-#include "protocol/forms.h"
+#include "protocol/blocks.h"
 
 namespace ansatz::lorentz {
 namespace {
@@ -19,47 +19,34 @@ bool supplied(const Point& at, int slot) {
 }
 
 Status value(const Point& at) {
-    const auto [n, P, x, y, dyda] = at;
-    if (n <= 0) return fail(at);
-    if (supplied(at, 3) && P[3] <= 0) return fail(at);
-    Real sum = P[1];
-    const int peaks = (n - 1) / 3;
-    for (int i = 1; i <= peaks; ++i) {
-        const Scalar c = P[3 * i - 1], w = P[3 * i], A = P[3 * i + 1];
-        const Real d = x[1] - c;
+    if (at.n <= 0) return fail(at);
+    if (supplied(at, 3) && at.P[3] <= 0) return fail(at);
+    return add_blocks<3>(at, (at.n - 1) / 3, [&](const Scalar* p, int) -> Outcome {
+        const Scalar c = p[1], w = p[2], A = p[3];
+        const Real d = at.x[1] - c;
         const Real den = d * (d * 4) + w * w;
         if (den == 0) return fail(at);
-        const Real peak = 2 * A / pi * (w / den);
-        y[i + 1] = peak;
-        sum += peak;
-    }
-    y[1] = sum;
-    return success;
+        return 2 * A / pi * (w / den);
+    });
 }
 
 /// `summed` is the number of peaks that a value pass of the same call has summed.
 Status derivatives(const Point& at, int summed) {
-    const auto [n, P, x, y, dyda] = at;
-    if (n <= 0) return fail(at);
+    if (at.n <= 0) return fail(at);
     const int tested = 3 * summed + 3;
-    if (supplied(at, tested) && !(P[tested] > 0)) return fail(at, 1, tested - 1, tested, tested + 1);
-    dyda[1] = 1;
-    Real sum = P[1];
-    const int peaks = (n - 1) / 3;
-    for (int i = 1; i <= peaks; ++i) {
-        const int centre = 3 * i - 1, width = 3 * i, area = 3 * i + 1;
-        const Scalar w = P[width];
-        const Real u = (x[1] - P[centre]) * 2 / w;
+    if (supplied(at, tested) && !(at.P[tested] > 0)) return fail(at, 1, tested - 1, tested, tested + 1);
+    at.dyda[1] = 1;
+    return add_blocks<3>(at, (at.n - 1) / 3, [&](const Scalar* p, int k) -> Outcome {
+        const Scalar c = p[1], w = p[2], A = p[3];
+        const Real u = (at.x[1] - c) * 2 / w;
         const Real q = 2 / ((u * u + 1) * (w * pi));
-        const Real peak = q * P[area];
-        dyda[area] = q;
-        dyda[centre] = q * (u * two_pi * peak);
-        dyda[width] = (u * (w * pi * u) * q - 1) * peak / w;
-        y[i + 1] = peak;
-        sum += peak;
-    }
-    y[1] = sum;
-    return success;
+        const Real peak = q * A;
+        Real* d = at.dyda + k;
+        d[1] = q * (u * two_pi * peak);
+        d[2] = (u * (w * pi * u) * q - 1) * peak / w;
+        d[3] = q;
+        return peak;
+    });
 }
 
 /// BothPaths, but for the width that the derivatives test: the first peak's when they are requested alone, and

@@ -8,7 +8,7 @@
 // more than one peak differ from a sum of Voigt profiles, and depend on the order of the peaks. Hosts rely on
 // all of that.
 
-#include "protocol/forms.h"
+#include "protocol/blocks.h"
 
 namespace ansatz::voigt {
 namespace {
@@ -65,23 +65,17 @@ bool add_voigt(Real X, Scalar Y, Real& K) {
 }
 
 Status value(const Point& at) {
-    const auto [n, P, x, y, dyda] = at;
-    if (n < 1) return fail(at);
-    Real sum = P[1], K = 0; // K goes from one peak into the next
-    const int peaks = (n - 1) / 4;
-    for (int i = 1; i <= peaks; ++i) {
-        const Scalar c = P[4 * i - 2], A = P[4 * i - 1], wG = P[4 * i], wL = P[4 * i + 1];
-        if (A == 0) continue;
+    if (at.n < 1) return fail(at);
+    Real K = 0; // goes from one peak into the next
+    return add_blocks<4>(at, (at.n - 1) / 4, [&](const Scalar* p, int) -> Outcome {
+        const Scalar c = p[1], A = p[2], wG = p[3], wL = p[4];
+        if (A == 0) return skipped;
         if (wG == 0 || wL == 0) return fail(at);
-        const Real X = (x[1] - c) * two_sqrt_ln_2 / wG;
+        const Real X = (at.x[1] - c) * two_sqrt_ln_2 / wG;
         const Scalar Y = wL * sqrt_ln_2 / wG;
         if (!add_voigt(X, Y, K)) return fail(at);
-        const Real peak = A * (K * unit_gauss / wG);
-        y[i + 1] = peak;
-        sum += peak;
-    }
-    y[1] = sum;
-    return success;
+        return A * (K * unit_gauss / wG);
+    });
 }
 
 } // namespace

@@ -5,7 +5,7 @@
 // they held. A zero of the polynomial is not looked for: the peak is infinite there. No library function is
 // called, so a pending error passes through unseen.
 
-#include "protocol/forms.h"
+#include "protocol/blocks.h"
 
 #include <cmath>
 
@@ -13,39 +13,25 @@ namespace ansatz::invs_poly {
 namespace {
 
 Status value(const Point& at) {
-    const auto [n, P, x, y, dyda] = at;
-    if (n < 1) return fail(at);
-    Real sum = P[1];
-    const int peaks = (n - 1) / 6;
-    for (int i = 1; i <= peaks; ++i) {
-        const Scalar* const p = P + 6 * (i - 1);
-        const Scalar c = p[2], w = p[3], A = p[4], a1 = p[5], a2 = p[6], a3 = p[7];
-        if (A == 0) continue;
+    if (at.n < 1) return fail(at);
+    return add_blocks<6>(at, (at.n - 1) / 6, [&](const Scalar* p, int) -> Outcome {
+        const Scalar c = p[1], w = p[2], A = p[3], a1 = p[4], a2 = p[5], a3 = p[6];
+        if (A == 0) return skipped;
         if (0 >= w) return fail(at);
-        const Real u = (x[1] - c) * 2 / w;
+        const Real u = (at.x[1] - c) * 2 / w;
         const Real z = u * u;
         const Real D = (a3 * z + a2) * z * z + a1 * z + 1;
-        const Real peak = A / D;
-        y[i + 1] = peak;
-        sum += peak;
-    }
-    y[1] = sum;
-    return success;
+        return A / D;
+    });
 }
 
 Status derivatives(const Point& at) {
-    const auto [n, P, x, y, dyda] = at;
-    dyda[1] = 1;
-    Real sum = P[1];
-    const int peaks = (n - 1) / 6;
-    for (int i = 1; i <= peaks; ++i) {
-        const int before = 6 * (i - 1);
-        const Scalar* const p = P + before;
-        Real* const d = dyda + before;
-        const Scalar c = p[2], w = p[3], A = p[4], a1 = p[5], a2 = p[6], a3 = p[7];
-        if (A == 0) continue;
-        if (0 >= w) return fail(at, 1, before + 2, before + 3, before + 4, before + 5, before + 6, before + 7);
-        const Real u = (x[1] - c) * 2 / w;
+    at.dyda[1] = 1;
+    return add_blocks<6>(at, (at.n - 1) / 6, [&](const Scalar* p, int k) -> Outcome {
+        const Scalar c = p[1], w = p[2], A = p[3], a1 = p[4], a2 = p[5], a3 = p[6];
+        if (A == 0) return skipped;
+        if (0 >= w) return fail(at, 1, k + 1, k + 2, k + 3, k + 4, k + 5, k + 6);
+        const Real u = (at.x[1] - c) * 2 / w;
         const Real z = u * u;
         const Real D = ((a3 * z + a2) * z + a1) * z + 1;
         const Real D2 = D * D;
@@ -53,18 +39,15 @@ Status derivatives(const Point& at) {
         const Real by_a1 = -(A * z / D2);
         const Real by_a2 = by_a1 * z;
         const Real by_w = ((6 * a3 * z + 4 * a2) * z + 2 * a1) * A * z / w / D2;
-        d[2] = x[1] == c ? 0 : by_w * w / (x[1] - c);
-        d[3] = by_w;
-        d[4] = by_A;
-        d[5] = by_a1;
-        d[6] = by_a2;
-        d[7] = by_a2 * z;
-        const Real peak = by_A * A;
-        y[i + 1] = peak;
-        sum += peak;
-    }
-    y[1] = sum;
-    return success;
+        Real* d = at.dyda + k;
+        d[1] = at.x[1] == c ? 0 : by_w * w / (at.x[1] - c);
+        d[2] = by_w;
+        d[3] = by_A;
+        d[4] = by_a1;
+        d[5] = by_a2;
+        d[6] = by_a2 * z;
+        return by_A * A;
+    });
 }
 
 /// Which coefficients of the first peak are in use: the low five, three, one or none of the bits.

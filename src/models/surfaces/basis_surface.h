@@ -11,8 +11,9 @@
 // leaves the error indicator as the library set it.
 #pragma once
 
-#include "protocol/forms.h"
+#include "protocol/blocks.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 
@@ -30,36 +31,35 @@ template <std::size_t J> Real contribution(const Scalar* c, const Functions<J>& 
     return sum;
 }
 
+template <std::size_t J> Status values(const Point& at, int blocks, const Functions<J>& f) {
+    return add_blocks<J>(at, blocks,
+                         [&](const Scalar* p, int) -> Outcome { return contribution<J>(p + 1, f); });
+}
+
+/// The basis at this point; without a block the library is not called.
+template <std::size_t J, Basis<J> basis> Functions<J> needed(const Point& at, int blocks) {
+    return blocks < 1 ? Functions<J>{} : basis(at.x[1], at.x[2]);
+}
+
 template <std::size_t J, Basis<J> basis> Status fill(const Point& at, int blocks) {
-    const auto [n, P, x, y, dyda] = at;
-    y[1] = P[1];
-    dyda[1] = 1;
-    if (blocks < 1) return success;
-    const Functions<J> f = basis(x[1], x[2]);
-    for (int k = 1; k <= blocks; ++k) {
-        const std::size_t first = 2 + J * static_cast<std::size_t>(k - 1);
-        for (std::size_t j = 0; j < J; ++j) dyda[first + j] = f[j];
-        y[k + 1] = contribution<J>(P + first, f);
-        y[1] += y[k + 1];
-    }
-    return success;
+    at.dyda[1] = 1;
+    const Functions<J> f = needed<J, basis>(at, blocks);
+    return add_blocks<J>(at, blocks, [&](const Scalar* p, int k) -> Outcome {
+        for (std::size_t j = 0; j < J; ++j) at.dyda[k + 1 + static_cast<int>(j)] = f[j];
+        return contribution<J>(p + 1, f);
+    });
 }
 
 template <std::size_t J, Basis<J> basis> struct Checked {
     static constexpr int size = J;
 
     static Status value(const Point& at) {
-        const auto [n, P, x, y, dyda] = at;
-        if (n <= 0) return fail_surface(at);
-        y[1] = P[1];
-        const Functions<J> f = basis(x[1], x[2]);
-        const int blocks = (n - 1) / size;
-        for (int k = 1; k <= blocks; ++k) {
-            y[k + 1] = contribution<J>(P + 2 + size * (k - 1), f);
-            y[1] += y[k + 1];
-            if (math_error()) return fail_surface(at);
-        }
-        return success;
+        if (at.n <= 0) return fail_surface(at);
+        const Functions<J> f = basis(at.x[1], at.x[2]);
+        const int blocks = (at.n - 1) / size;
+        if (blocks < 1 || !math_error()) return values<J>(at, blocks, f);
+        values<J>(at, 1, f);
+        return fail_surface(at);
     }
 
     static Status derivatives(const Point& at) {
@@ -73,16 +73,8 @@ template <std::size_t J, Basis<J> basis> struct Unchecked {
     static constexpr int size = J;
 
     static Status value(const Point& at) {
-        const auto [n, P, x, y, dyda] = at;
-        y[1] = P[1];
-        const int blocks = n / size;
-        if (blocks < 1) return success; // without a block the library is not called
-        const Functions<J> f = basis(x[1], x[2]);
-        for (int k = 1; k <= blocks; ++k) {
-            y[k + 1] = contribution<J>(P + 2 + size * (k - 1), f);
-            y[1] += y[k + 1];
-        }
-        return success;
+        const int blocks = at.n / size;
+        return values<J>(at, blocks, needed<J, basis>(at, blocks));
     }
 
     static Status derivatives(const Point& at) { return fill<J, basis>(at, at.n / size); }

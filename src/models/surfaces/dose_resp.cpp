@@ -4,40 +4,31 @@
 // Fails for x1 <= 0 or x2 <= 0, unless there is no term. Overflows and domain errors are not tested: a negative
 // half-effect dose with a broken exponent gives not a number, with status 0 and the error indicator left set.
 
-#include "protocol/forms.h"
+#include "protocol/blocks.h"
 
 namespace ansatz::dose_resp {
 namespace {
 
 Status value(const Point& at) {
-    const auto [n, P, x, y, dyda] = at;
-    y[1] = P[1];
-    const int terms = n / 5;
-    for (int k = 1; k <= terms; ++k) {
-        const Scalar* p = P + 1 + 5 * (k - 1);
-        const Scalar A = p[1], D1 = p[2], h1 = p[3], D2 = p[4], h2 = p[5];
-        if (x[1] <= 0 || x[2] <= 0) return fail_surface(at);
-        const Real p1 = safe_pow(x[1] / D1, -h1), p2 = safe_pow(x[2] / D2, -h2);
-        const Real term = A / (p1 + 1) / (p2 + 1);
-        y[k + 1] = term;
-        y[1] += term;
-    }
-    return success;
+    return add_blocks<5>(at, at.n / 5, [&](const Scalar* p, int) -> Outcome {
+        const Scalar D1 = p[2], h1 = p[3], D2 = p[4], h2 = p[5];
+        if (at.x[1] <= 0 || at.x[2] <= 0) return fail_surface(at);
+        const Real p1 = safe_pow(at.x[1] / D1, -h1), p2 = safe_pow(at.x[2] / D2, -h2);
+        const Scalar A = p[1];
+        return A / (p1 + 1) / (p2 + 1);
+    });
 }
 
 Status derivatives(const Point& at) {
-    const auto [n, P, x, y, dyda] = at;
-    const Real x1 = x[1], x2 = x[2];
-    y[1] = P[1];
-    dyda[1] = 1;
-    const int terms = n / 5;
-    for (int k = 1; k <= terms; ++k) {
-        const Scalar* p = P + 1 + 5 * (k - 1);
-        Real* d = dyda + 1 + 5 * (k - 1);
-        const Scalar A = p[1], D1 = p[2], h1 = p[3], D2 = p[4], h2 = p[5];
+    const Real x1 = at.x[1], x2 = at.x[2];
+    at.dyda[1] = 1;
+    return add_blocks<5>(at, at.n / 5, [&](const Scalar* p, int k) -> Outcome {
+        Real* d = at.dyda + k;
+        const Scalar D1 = p[2], h1 = p[3], D2 = p[4], h2 = p[5];
         if (x1 <= 0 || x2 <= 0) return fail_surface(at);
         const Real r1 = x1 / D1, r2 = x2 / D2;
         const Real p1 = safe_pow(r1, -h1), p2 = safe_pow(r2, -h2);
+        const Scalar A = p[1];
         const Real q1 = 1 + p1, q2 = 1 + p2;
         const Real by_A = 1 / q1 / q2;
         d[1] = by_A;
@@ -45,11 +36,8 @@ Status derivatives(const Point& at) {
         d[3] = log(r1) * A * p1 / q1 / q1 / q2;
         d[4] = -(safe_pow(r2, -1.0 - h2) * A * h2 * x2 / D2 / D2 / q1 / q2 / q2);
         d[5] = log(r2) * A * p2 / q1 / q2 / q2;
-        const Real term = A * by_A;
-        y[k + 1] = term;
-        y[1] += term;
-    }
-    return success;
+        return A * by_A;
+    });
 }
 
 } // namespace

@@ -4,49 +4,36 @@
 // Decay lengths are not tested. A failure, which only an error indicator left set by the caller can cause,
 // marks no derivative.
 
-#include "protocol/forms.h"
+#include "protocol/blocks.h"
 
 namespace ansatz::exponential_2d {
 namespace {
 
 Status value(const Point& at) {
-    const auto [n, P, x, y, dyda] = at;
-    y[1] = P[1];
-    const int terms = n / 3;
-    for (int k = 1; k <= terms; ++k) {
-        const Scalar* p = P + 1 + 3 * (k - 1);
-        const Real e1 = clamped_exp(-(x[1] / p[2]));
+    return add_blocks<3>(at, at.n / 3, [&](const Scalar* p, int) -> Outcome {
+        const Real e1 = clamped_exp(-(at.x[1] / p[2]));
         if (math_error()) return fail_surface(at);
-        const Real e2 = clamped_exp(-(x[2] / p[3]));
+        const Real e2 = clamped_exp(-(at.x[2] / p[3]));
         if (math_error()) return fail_surface(at);
-        const Real term = p[1] * e1 * e2;
-        y[k + 1] = term;
-        y[1] += term;
-    }
-    return success;
+        return p[1] * e1 * e2;
+    });
 }
 
 Status derivatives(const Point& at) {
-    const auto [n, P, x, y, dyda] = at;
-    y[1] = P[1];
-    const int terms = n / 3;
-    for (int k = 1; k <= terms; ++k) {
-        const Scalar* p = P + 1 + 3 * (k - 1);
-        Real* d = dyda + 1 + 3 * (k - 1);
+    return add_blocks<3>(at, at.n / 3, [&](const Scalar* p, int k) -> Outcome {
         const Scalar A = p[1], t1 = p[2], t2 = p[3];
-        const Real e1 = clamped_exp(-(x[1] / t1));
+        const Real e1 = clamped_exp(-(at.x[1] / t1));
         if (math_error()) return fail_surface(at);
-        const Real e2 = clamped_exp(-(x[2] / t2));
+        const Real e2 = clamped_exp(-(at.x[2] / t2));
         if (math_error()) return fail_surface(at);
         const Real term = A * e1 * e2;
-        dyda[1] = 1;
+        at.dyda[1] = 1;
+        Real* d = at.dyda + k;
         d[1] = e1 * e2;
-        d[2] = term * x[1] / (t1 * t1);
-        d[3] = term * x[2] / (t2 * t2);
-        y[k + 1] = term;
-        y[1] += term;
-    }
-    return success;
+        d[2] = term * at.x[1] / (t1 * t1);
+        d[3] = term * at.x[2] / (t2 * t2);
+        return term;
+    });
 }
 
 } // namespace

@@ -5,53 +5,39 @@
 // not tested: the peak is then zero, at its centre not a number. A failure, which only an error indicator left
 // set by the caller can cause, marks no derivative.
 
-#include "protocol/forms.h"
+#include "protocol/blocks.h"
 
 namespace ansatz::extreme_2d {
 namespace {
 
 Status value(const Point& at) {
-    const auto [n, P, x, y, dyda] = at;
-    y[1] = P[1];
-    const int terms = n / 5;
-    for (int i = 1; i <= terms; ++i) {
-        const Scalar* p = P + 1 + 5 * (i - 1);
+    return add_blocks<5>(at, at.n / 5, [&](const Scalar* p, int) -> Outcome {
         const Scalar a = p[1], q = p[2], A = p[3], xc = p[4], w = p[5];
-        const Real e1 = clamped_exp((xc - x[1]) / w);
+        const Real e1 = clamped_exp((xc - at.x[1]) / w);
         if (math_error()) return fail_surface(at);
-        const Real e2 = clamped_exp(1 - e1 - (x[1] - xc) / w);
+        const Real e2 = clamped_exp(1 - e1 - (at.x[1] - xc) / w);
         if (math_error()) return fail_surface(at);
-        const Real term = a * x[2] + q * (x[2] * x[2]) + A * e2;
-        y[i + 1] = term;
-        y[1] += term;
-    }
-    return success;
+        return a * at.x[2] + q * (at.x[2] * at.x[2]) + A * e2;
+    });
 }
 
 Status derivatives(const Point& at) {
-    const auto [n, P, x, y, dyda] = at;
-    y[1] = P[1];
-    dyda[1] = 1;
-    const int terms = n / 5;
-    for (int i = 1; i <= terms; ++i) {
-        const Scalar* p = P + 1 + 5 * (i - 1);
-        Real* d = dyda + 1 + 5 * (i - 1);
+    at.dyda[1] = 1;
+    return add_blocks<5>(at, at.n / 5, [&](const Scalar* p, int k) -> Outcome {
         const Scalar a = p[1], q = p[2], A = p[3], xc = p[4], w = p[5];
-        const Real e1 = clamped_exp((xc - x[1]) / w);
+        const Real e1 = clamped_exp((xc - at.x[1]) / w);
         if (math_error()) return fail_surface(at);
-        const Real e2 = clamped_exp(1 - e1 - (x[1] - xc) / w);
+        const Real e2 = clamped_exp(1 - e1 - (at.x[1] - xc) / w);
         if (math_error()) return fail_surface(at);
-        const Real Ae2 = A * e2, square = x[2] * x[2];
-        d[1] = x[2];
+        const Real Ae2 = A * e2, square = at.x[2] * at.x[2];
+        Real* d = at.dyda + k;
+        d[1] = at.x[2];
         d[2] = square;
         d[3] = e2;
         d[4] = (1 - e1) * Ae2 / w;
-        d[5] = (e1 * (xc - x[1]) + (x[1] - xc)) * Ae2 / w / w;
-        const Real term = a * x[2] + q * square + Ae2;
-        y[i + 1] = term;
-        y[1] += term;
-    }
-    return success;
+        d[5] = (e1 * (xc - at.x[1]) + (at.x[1] - xc)) * Ae2 / w / w;
+        return a * at.x[2] + q * square + Ae2;
+    });
 }
 
 } // namespace

@@ -2,50 +2,37 @@
 // (except where its x is 0 too: not a number, with status 0). The derivatives are not tested: a scale of 0
 // makes them not numbers, with status 0 and the error indicator left set.
 
-#include "protocol/forms.h"
+#include "protocol/blocks.h"
 
 namespace ansatz::fourier_2d {
 namespace {
 
 Status value(const Point& at) {
-    const auto [n, P, x, y, dyda] = at;
-    if (n <= 0) return fail_surface(at);
-    y[1] = P[1];
-    const int blocks = (n - 1) / 6;
-    for (int k = 1; k <= blocks; ++k) {
-        const Scalar* p = P + 1 + 6 * (k - 1);
-        const Real t = x[1] / p[5], s = x[2] / p[6];
+    if (at.n <= 0) return fail_surface(at);
+    return add_blocks<6>(at, (at.n - 1) / 6, [&](const Scalar* p, int) -> Outcome {
+        const Real t = at.x[1] / p[5], s = at.x[2] / p[6];
         const Real block = p[1] * cos(t) + p[2] * sin(t) + p[3] * cos(s) + p[4] * sin(s);
         if (math_error()) return fail_surface(at);
-        y[k + 1] = block;
-        y[1] += block;
-    }
-    return success;
+        return block;
+    });
 }
 
 Status derivatives(const Point& at) {
-    const auto [n, P, x, y, dyda] = at;
-    if (n <= 0) return fail_surface(at);
-    y[1] = P[1];
-    dyda[1] = 1;
-    const int blocks = (n - 1) / 6;
-    for (int k = 1; k <= blocks; ++k) {
-        const Scalar* p = P + 1 + 6 * (k - 1);
-        Real* d = dyda + 1 + 6 * (k - 1);
+    if (at.n <= 0) return fail_surface(at);
+    at.dyda[1] = 1;
+    return add_blocks<6>(at, (at.n - 1) / 6, [&](const Scalar* p, int k) -> Outcome {
         const Scalar a = p[1], b = p[2], c = p[3], e = p[4], Lx = p[5], Ly = p[6];
-        const Real t = x[1] / Lx, s = x[2] / Ly;
+        const Real t = at.x[1] / Lx, s = at.x[2] / Ly;
         const Real cos_t = cos(t), sin_t = sin(t), cos_s = cos(s), sin_s = sin(s);
+        Real* d = at.dyda + k;
         d[1] = cos_t;
         d[2] = sin_t;
         d[3] = cos_s;
         d[4] = sin_s;
-        d[5] = (sin_t * x[1] * a - cos_t * x[1] * b) / Lx / Lx;
-        d[6] = (sin_s * x[2] * c - cos_s * x[2] * e) / Ly / Ly;
-        const Real block = a * cos_t + b * sin_t + c * cos_s + e * sin_s;
-        y[k + 1] = block;
-        y[1] += block;
-    }
-    return success;
+        d[5] = (sin_t * at.x[1] * a - cos_t * at.x[1] * b) / Lx / Lx;
+        d[6] = (sin_s * at.x[2] * c - cos_s * at.x[2] * e) / Ly / Ly;
+        return a * cos_t + b * sin_t + c * cos_s + e * sin_s;
+    });
 }
 
 } // namespace

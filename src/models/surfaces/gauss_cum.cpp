@@ -3,26 +3,19 @@
 // to the bare offset, see offset_reset.h.
 
 #include "models/surfaces/offset_reset.h"
+#include "protocol/blocks.h"
 #include "special/erf.h"
 
 namespace ansatz::gauss_cum {
 namespace {
 
 Status value(const Point& at) {
-    const auto [n, P, x, y, dyda] = at;
-    Real sum = P[1];
-    const int terms = n / 5;
     const Scalar r = sqrt(2.0);
-    for (int k = 1; k <= terms; ++k) {
-        const Scalar* p = P + 1 + 5 * (k - 1);
+    return add_blocks<5>(at, at.n / 5, [&](const Scalar* p, int) -> Outcome {
         const Scalar A = p[1], xc = p[2], wx = p[3], yc = p[4], wy = p[5];
-        const Real u = (x[1] - xc) / r / wx, v = (x[2] - yc) / r / wy;
-        const Real term = A * 0.25 * (erf(u) + 1) * (erf(v) + 1);
-        y[k + 1] = term;
-        sum += term;
-    }
-    y[1] = sum;
-    return success;
+        const Real u = (at.x[1] - xc) / r / wx, v = (at.x[2] - yc) / r / wy;
+        return A * 0.25 * (erf(u) + 1) * (erf(v) + 1);
+    });
 }
 
 } // namespace

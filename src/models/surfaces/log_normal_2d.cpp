@@ -4,7 +4,7 @@
 // Fails on a range or domain error. A log-width of 0 makes its ridge vanish (at its top exactly: not a number).
 // A derivative request alone returns 0 and writes nothing.
 
-#include "protocol/forms.h"
+#include "protocol/blocks.h"
 
 namespace ansatz::log_normal_2d {
 namespace {
@@ -15,20 +15,14 @@ Real ridge(Real x, Scalar c, Scalar s) {
 }
 
 Status value(const Point& at) {
-    const auto [n, P, x, y, dyda] = at;
-    y[1] = P[1];
-    const int terms = n / 7;
-    for (int i = 1; i <= terms; ++i) {
-        const Scalar* p = P + 1 + 7 * (i - 1); // p[1] A1, p[2] c1, p[3] s1, p[4] A2, p[5] c2, p[6] s2, p[7] A12
-        const Real e1 = ridge(x[1], p[2], p[3]);
+    return add_blocks<7>(at, at.n / 7, [&](const Scalar* p, int) -> Outcome {
+        // p[1] A1, p[2] c1, p[3] s1, p[4] A2, p[5] c2, p[6] s2, p[7] A12
+        const Real e1 = ridge(at.x[1], p[2], p[3]);
         if (math_error()) return fail_surface(at);
-        const Real e2 = ridge(x[2], p[5], p[6]);
+        const Real e2 = ridge(at.x[2], p[5], p[6]);
         if (math_error()) return fail_surface(at);
-        const Real term = p[1] * e1 + p[4] * e2 + p[7] * e1 * e2;
-        y[i + 1] = term;
-        y[1] += term;
-    }
-    return success;
+        return p[1] * e1 + p[4] * e2 + p[7] * e1 * e2;
+    });
 }
 
 } // namespace

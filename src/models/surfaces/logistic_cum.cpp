@@ -5,39 +5,27 @@
 // Widths are not tested. A failure, which only an error indicator left set by the caller can cause, marks no
 // derivative.
 
-#include "protocol/forms.h"
+#include "protocol/blocks.h"
 
 namespace ansatz::logistic_cum {
 namespace {
 
 Status value(const Point& at) {
-    const auto [n, P, x, y, dyda] = at;
-    y[1] = P[1];
-    const int terms = n / 5;
-    for (int k = 1; k <= terms; ++k) {
-        const Scalar* p = P + 1 + 5 * (k - 1);
+    return add_blocks<5>(at, at.n / 5, [&](const Scalar* p, int) -> Outcome {
         const Scalar A = p[1], xc = p[2], wx = p[3], yc = p[4], wy = p[5];
-        const Real e1 = clamped_exp(-((x[1] - xc) / wx));
+        const Real e1 = clamped_exp(-((at.x[1] - xc) / wx));
         if (math_error()) return fail_surface(at);
-        const Real e2 = clamped_exp(-((x[2] - yc) / wy));
+        const Real e2 = clamped_exp(-((at.x[2] - yc) / wy));
         if (math_error()) return fail_surface(at);
-        const Real term = A / (e1 + 1) / (e2 + 1);
-        y[k + 1] = term;
-        y[1] += term;
-    }
-    return success;
+        return A / (e1 + 1) / (e2 + 1);
+    });
 }
 
 Status derivatives(const Point& at) {
-    const auto [n, P, x, y, dyda] = at;
-    y[1] = P[1];
-    dyda[1] = 1;
-    const int terms = n / 5;
-    for (int k = 1; k <= terms; ++k) {
-        const Scalar* p = P + 1 + 5 * (k - 1);
-        Real* d = dyda + 1 + 5 * (k - 1);
+    at.dyda[1] = 1;
+    return add_blocks<5>(at, at.n / 5, [&](const Scalar* p, int k) -> Outcome {
         const Scalar A = p[1], xc = p[2], wx = p[3], yc = p[4], wy = p[5];
-        const Real dx = x[1] - xc, dy = x[2] - yc;
+        const Real dx = at.x[1] - xc, dy = at.x[2] - yc;
         const Real e1 = clamped_exp(-(dx / wx));
         if (math_error()) return fail_surface(at);
         const Real e2 = clamped_exp(-(dy / wy));
@@ -46,16 +34,14 @@ Status derivatives(const Point& at) {
         const Real by_A = 1 / q1 / q2;
         const Real by_xc = -(e1 * A / wx / q1 / q1 / q2);
         const Real by_yc = -(e2 * A / q1 / q2 / q2 / wy);
+        Real* d = at.dyda + k;
         d[1] = by_A;
         d[2] = by_xc;
         d[3] = by_xc * dx / wx;
         d[4] = by_yc;
         d[5] = by_yc * dy / wy;
-        const Real term = A * by_A;
-        y[k + 1] = term;
-        y[1] += term;
-    }
-    return success;
+        return A * by_A;
+    });
 }
 
 } // namespace

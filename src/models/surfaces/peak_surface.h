@@ -10,7 +10,9 @@
 //   amplitude 0 is skipped, whatever its widths: its component keeps what it held, its derivatives are 0.
 #pragma once
 
-#include "protocol/forms.h"
+#include "protocol/blocks.h"
+
+#include <algorithm>
 
 namespace ansatz::peak_surface {
 
@@ -30,48 +32,37 @@ inline Real by_centre(Real s, Real x, Scalar centre) {
 }
 
 template <class Shape> Status value(const Point& at) {
-    const auto [n, P, x, y, dyda] = at;
-    if (n < 1) return fail_surface(at);
-    y[1] = P[1];
-    const int peaks = (n - 1) / Shape::stride;
-    for (int i = 1; i <= peaks; ++i) {
-        const Scalar* p = P + 1 + (i - 1) * Shape::stride;
-        if (p[1] == 0) continue;
+    if (at.n < 1) return fail_surface(at);
+    const int peaks = (at.n - 1) / Shape::stride;
+    return add_blocks<Shape::stride>(at, peaks, [&](const Scalar* p, int) -> Outcome {
+        if (p[1] == 0) return skipped;
         if (p[3] == 0 || p[5] == 0) return fail_surface(at);
-        const Real peak = Shape{{p, x[1], x[2]}}.component();
+        const Real peak = Shape{{p, at.x[1], at.x[2]}}.component();
         if (math_error()) return fail_surface(at);
-        y[i + 1] = peak;
-        y[1] += peak;
-    }
-    return success;
+        return peak;
+    });
 }
 
 template <class Shape> Status derivatives(const Point& at) {
-    const auto [n, P, x, y, dyda] = at;
-    if (n < 1) return fail_surface(at);
-    dyda[1] = 1;
-    y[1] = P[1];
-    const int peaks = (n - 1) / Shape::stride;
-    for (int i = 1; i <= peaks; ++i) {
-        const Scalar* p = P + 1 + (i - 1) * Shape::stride;
-        Real* d = dyda + 1 + (i - 1) * Shape::stride;
+    if (at.n < 1) return fail_surface(at);
+    at.dyda[1] = 1;
+    const int peaks = (at.n - 1) / Shape::stride;
+    return add_blocks<Shape::stride>(at, peaks, [&](const Scalar* p, int k) -> Outcome {
+        Real* d = at.dyda + k;
         if (p[1] == 0) {
-            for (int k = 1; k <= Shape::slots; ++k) d[k] = 0;
-            continue;
+            std::fill_n(d + 1, Shape::slots, 0.0);
+            return skipped;
         }
         const auto fail_peak = [&] {
-            for (int k = 1; k <= Shape::marked; ++k) d[k] = MISSING_VALUE;
+            std::fill_n(d + 1, Shape::marked, MISSING_VALUE);
             return fail_surface(at);
         };
         if (p[3] <= 0 || p[5] <= 0) return fail_peak();
-        const Shape shape{{p, x[1], x[2]}};
+        const Shape shape{{p, at.x[1], at.x[2]}};
         if (range_error()) return fail_peak();
         shape.partials(d);
-        const Real peak = shape.component();
-        y[i + 1] = peak;
-        y[1] += peak;
-    }
-    return success;
+        return shape.component();
+    });
 }
 
 template <class Shape> using Form = BothPaths<value<Shape>, derivatives<Shape>>;

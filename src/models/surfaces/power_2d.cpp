@@ -5,49 +5,33 @@
 // FF_DERIV computes them all the same. The derivative by p takes ln|x1|, so that x1 < 0 with a whole power
 // stays finite, and is 0 at x1 == 0; the derivative by q exists for x2 > 0 only.
 
-#include "protocol/forms.h"
+#include "protocol/blocks.h"
 
 namespace ansatz::power_2d {
 namespace {
 
 Status value(const Point& at) {
-    const auto [n, P, x, y, dyda] = at;
-    Real sum = P[1];
-    const int terms = n / 5;
-    for (int k = 1; k <= terms; ++k) {
-        const Scalar* p = P + 1 + 5 * (k - 1);
-        const Real X = safe_pow(x[1], p[2]), Y = safe_pow(x[2], p[4]);
-        const Real term = p[1] * X + p[3] * Y + Y * (X * p[5]);
-        y[k + 1] = term;
-        sum += term;
-    }
-    y[1] = sum;
-    return success;
+    return add_blocks<5>(at, at.n / 5, [&](const Scalar* p, int) -> Outcome {
+        const Real X = safe_pow(at.x[1], p[2]), Y = safe_pow(at.x[2], p[4]);
+        return p[1] * X + p[3] * Y + Y * (X * p[5]);
+    });
 }
 
 Status derivatives(const Point& at) {
-    const auto [n, P, x, y, dyda] = at;
-    const Real x1 = x[1], x2 = x[2];
-    dyda[1] = 1;
-    Real sum = P[1];
-    const int terms = n / 5;
-    for (int k = 1; k <= terms; ++k) {
-        const Scalar* p = P + 1 + 5 * (k - 1);
-        Real* s = dyda + 1 + 5 * (k - 1);
+    const Real x1 = at.x[1], x2 = at.x[2];
+    at.dyda[1] = 1;
+    return add_blocks<5>(at, at.n / 5, [&](const Scalar* p, int k) -> Outcome {
         const Scalar a = p[1], c = p[3], d = p[5];
         const Real X = safe_pow(x1, p[2]), Y = safe_pow(x2, p[4]);
         const Real aX = a * X, cY = c * Y, dXY = Y * (X * d);
+        Real* s = at.dyda + k;
         s[1] = X;
         s[2] = x1 == 0 ? 0 : (aX + dXY) * log(std::fabs(x1));
         s[3] = Y;
         s[4] = (cY + dXY) * log(x2);
         s[5] = X * Y;
-        const Real term = aX + cY + dXY;
-        y[k + 1] = term;
-        sum += term;
-    }
-    y[1] = sum;
-    return success;
+        return aX + cY + dXY;
+    });
 }
 
 } // namespace

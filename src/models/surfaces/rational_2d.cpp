@@ -1,7 +1,7 @@
 // Rational2D. Powers that overflow leave the error indicator set. The query says that there are no derivatives,
 // but FF_DERIV computes them all the same; the last two of a block divide by x1.
 
-#include "protocol/forms.h"
+#include "protocol/blocks.h"
 
 namespace ansatz::rational_2d {
 namespace {
@@ -16,32 +16,21 @@ Real denominator(const Scalar* p, const Real* x) {
 }
 
 Status value(const Point& at) {
-    const auto [n, P, x, y, dyda] = at;
-    y[1] = 0;
-    const int blocks = n / 10;
-    for (int k = 1; k <= blocks; ++k) {
-        const Scalar* p = P + 10 * (k - 1);
-        const Real D = denominator(p, x);
+    return add_blocks<10, 0>(at, at.n / 10, [&](const Scalar* p, int) -> Outcome {
+        const Real D = denominator(p, at.x);
         if (D == 0) return fail_surface(at);
-        const Real block = numerator(p, x, safe_pow(x[2], 3)) / D;
-        y[k + 1] = block;
-        y[1] += block;
-    }
-    return success;
+        return numerator(p, at.x, safe_pow(at.x[2], 3)) / D;
+    });
 }
 
 Status derivatives(const Point& at) {
-    const auto [n, P, x, y, dyda] = at;
-    const Real x1 = x[1], x2 = x[2];
-    y[1] = 0;
-    const int blocks = n / 10;
-    for (int k = 1; k <= blocks; ++k) {
-        const Scalar* p = P + 10 * (k - 1);
-        Real* d = dyda + 10 * (k - 1);
-        const Real D = denominator(p, x);
+    const Real x1 = at.x[1], x2 = at.x[2];
+    return add_blocks<10, 0>(at, at.n / 10, [&](const Scalar* p, int k) -> Outcome {
+        const Real D = denominator(p, at.x);
         if (D == 0) return fail_surface(at);
         const Real r = 1 / D, x2_cubed = safe_pow(x2, 3);
-        const Real g = -(safe_pow(r, 2.0) * x1 * numerator(p, x, x2_cubed));
+        const Real g = -(safe_pow(r, 2.0) * x1 * numerator(p, at.x, x2_cubed));
+        Real* d = at.dyda + k;
         d[1] = r;
         d[2] = x1 * r;
         d[3] = x2 * r;
@@ -52,11 +41,8 @@ Status derivatives(const Point& at) {
         d[8] = g * x1 * x1;
         d[9] = g * x2 / x1;
         d[10] = x2 * d[9];
-        const Real block = p[1] * d[1] + p[2] * d[2] + p[3] * d[3] + p[4] * d[4] + p[5] * d[5];
-        y[k + 1] = block;
-        y[1] += block;
-    }
-    return success;
+        return p[1] * d[1] + p[2] * d[2] + p[3] * d[3] + p[4] * d[4] + p[5] * d[5];
+    });
 }
 
 } // namespace

@@ -3,7 +3,7 @@
 // fifth coefficient with x2^2 instead of x1 x2, so it is the value only where that coefficient is 0 or x1 = x2:
 // take y from a call with FF_VALUE alone.
 
-#include "protocol/forms.h"
+#include "protocol/blocks.h"
 
 namespace ansatz::rational_taylor {
 namespace {
@@ -17,32 +17,21 @@ Real denominator(const Scalar* p, const Real* x) {
 }
 
 Status value(const Point& at) {
-    const auto [n, P, x, y, dyda] = at;
-    y[1] = 0;
-    const int blocks = n / 10;
-    for (int k = 1; k <= blocks; ++k) {
-        const Scalar* p = P + 10 * (k - 1);
-        const Real D = denominator(p, x);
+    return add_blocks<10, 0>(at, at.n / 10, [&](const Scalar* p, int) -> Outcome {
+        const Real D = denominator(p, at.x);
         if (D == 0) return fail_surface(at);
-        const Real block = numerator(p, x) / D;
-        y[k + 1] = block;
-        y[1] += block;
-    }
-    return success;
+        return numerator(p, at.x) / D;
+    });
 }
 
 Status derivatives(const Point& at) {
-    const auto [n, P, x, y, dyda] = at;
-    const Real x1 = x[1], x2 = x[2];
-    y[1] = 0;
-    const int blocks = n / 10;
-    for (int k = 1; k <= blocks; ++k) {
-        const Scalar* p = P + 10 * (k - 1);
-        Real* d = dyda + 10 * (k - 1);
-        const Real D = denominator(p, x);
+    const Real x1 = at.x[1], x2 = at.x[2];
+    return add_blocks<10, 0>(at, at.n / 10, [&](const Scalar* p, int k) -> Outcome {
+        const Real D = denominator(p, at.x);
         if (D == 0) return fail_surface(at);
         const Real r = 1 / D;
-        const Real g = -(safe_pow(r, 2.0) * x1 * numerator(p, x));
+        const Real g = -(safe_pow(r, 2.0) * x1 * numerator(p, at.x));
+        Real* d = at.dyda + k;
         d[1] = r;
         d[2] = x1 * r;
         d[3] = x2 * r;
@@ -55,11 +44,8 @@ Status derivatives(const Point& at) {
         d[8] = h;
         d[9] = x2 * h;
         d[10] = g * x2;
-        const Real block = p[1] * d[1] + p[2] * d[2] + p[3] * d[3] + p[4] * d[4] + p[5] * d[4];
-        y[k + 1] = block;
-        y[1] += block;
-    }
-    return success;
+        return p[1] * d[1] + p[2] * d[2] + p[3] * d[3] + p[4] * d[4] + p[5] * d[4];
+    });
 }
 
 } // namespace
