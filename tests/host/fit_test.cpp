@@ -412,16 +412,16 @@ TEST(Columns, KeepNothingOfTheEvaluationBefore) {
     const Model model = Model::find("InvsPoly");
     const Eigen::MatrixXd x = vector({-1, 0.5, 2});
     const Eigen::VectorXd peak = vector({1, 0, 2, 3, 1, 0.5, 0.2}), none = vector({1, 0, 2, 0, 1, 0.5, 0.2});
-    ColumnEvaluator columns(model, x, 7);
+    ColumnSource columns(model, x, 7);
     Evaluator by_point(model, peak);
     EXPECT_EQ(columns.compute(peak), -1);
     ASSERT_TRUE(by_point.derivatives(x, 1));
-    EXPECT_NE(columns.derivative(1, 3), 0);
+    EXPECT_NE(columns.jacobian()(1, 3), 0);
     by_point.set_parameters(none);
     EXPECT_EQ(columns.compute(none), -1);
     ASSERT_TRUE(by_point.derivatives(x, 1));
     for (int k = 0; k < 7; ++k) {
-        EXPECT_EQ(columns.derivative(1, k), k == 0) << "P" << k + 1;
+        EXPECT_EQ(columns.jacobian()(1, k), k == 0) << "P" << k + 1;
         EXPECT_EQ(by_point.derivative(0, k), k == 0) << "P" << k + 1;
     }
 }
