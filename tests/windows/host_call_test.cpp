@@ -171,7 +171,8 @@ TEST(TestCommand, SendsItsLinesToAWindow) {
     const HWND window =
         CreateWindowA("ansatz_test", "", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
     ASSERT_TRUE(window) << GetLastError();
-    EXPECT_EQ(FuncTest(1, window, not_called, nullptr), std::ssize(received));
+    const std::int32_t count = FuncTest(1, window, not_called, nullptr);
+    EXPECT_EQ(count, std::ssize(received));
     EXPECT_FALSE(received.empty());
     EXPECT_EQ(received.at(0), "type Shah");
     DestroyWindow(window);
