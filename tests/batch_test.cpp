@@ -2,6 +2,7 @@
 // them.
 
 #include "frame/golden.h"
+#include "frame/listed.h"
 
 #include <ansatz/batch.h>
 
@@ -192,7 +193,7 @@ TEST(Batch, FindsEveryNameInAnyCase) {
     const auto line = [](std::uint32_t, const char* text) {
         EXPECT_TRUE(ansatz_batch_find(text + 5)) << text; // "type NAME"
     };
-    EXPECT_GT(FuncTest(1, nullptr, line, nullptr), 0);
+    EXPECT_GE(FuncTest(1, nullptr, line, nullptr), std::ssize(listed().rows));
 }
 
 TEST(Batch, ReadsAndWritesWithStrides) {
